@@ -1,0 +1,165 @@
+#include "core/PlistIO.h"
+
+#include <plist/plist.h>
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+
+#include "core/AtomicFile.h"
+#include "core/FileUtil.h"
+
+namespace ComQuorvantVelmar_Plugin::PlistIO {
+namespace {
+
+struct PlistDeleter {
+    void operator()(plist_t node) const { plist_free(node); }
+};
+using PlistHandle = std::unique_ptr<void, PlistDeleter>;
+
+PlistValue fromNode(plist_t node);
+
+PlistValue fromArray(plist_t node) {
+    PlistArray array;
+    const uint32_t count = plist_array_get_size(node);
+    array.reserve(count);
+    for (uint32_t i = 0; i < count; ++i) array.push_back(fromNode(plist_array_get_item(node, i)));
+    return array;
+}
+
+PlistValue fromDictionary(plist_t node) {
+    PlistDictionary dictionary;
+    plist_dict_iter iterator = nullptr;
+    plist_dict_new_iter(node, &iterator);
+    while (iterator) {
+        char* key = nullptr;
+        plist_t item = nullptr;
+        plist_dict_next_item(node, iterator, &key, &item);
+        if (!key) break;
+        dictionary.set(key, fromNode(item));
+        free(key);
+    }
+    free(iterator);
+    return dictionary;
+}
+
+std::string stringOf(plist_t node) {
+    char* text = nullptr;
+    plist_get_string_val(node, &text);
+    std::string result = text ? text : "";
+    free(text);
+    return result;
+}
+
+PlistValue fromNode(plist_t node) {
+    switch (plist_get_node_type(node)) {
+    case PLIST_BOOLEAN: {
+        uint8_t value = 0;
+        plist_get_bool_val(node, &value);
+        return value != 0;
+    }
+    case PLIST_UINT: {
+        uint64_t value = 0;
+        plist_get_uint_val(node, &value);
+        // libplist keeps every integer unsigned; a negative number written as
+        // text comes back as its two's complement, which this cast restores.
+        return static_cast<std::int64_t>(value);
+    }
+    case PLIST_REAL: {
+        double value = 0;
+        plist_get_real_val(node, &value);
+        return value;
+    }
+    case PLIST_STRING:
+        return stringOf(node);
+    case PLIST_DATA: {
+        char* bytes = nullptr;
+        uint64_t length = 0;
+        plist_get_data_val(node, &bytes, &length);
+        std::string result(bytes ? bytes : "", bytes ? length : 0);
+        free(bytes);
+        return result;
+    }
+    case PLIST_DATE: {
+        int32_t seconds = 0;
+        int32_t microseconds = 0;
+        plist_get_date_val(node, &seconds, &microseconds);
+        return seconds + microseconds / 1e6;
+    }
+    case PLIST_ARRAY:
+        return fromArray(node);
+    case PLIST_DICT:
+        return fromDictionary(node);
+    default:
+        return {};
+    }
+}
+
+plist_t toNode(const PlistValue& value) {
+    switch (value.type()) {
+    case PlistValue::Type::Boolean:
+        return plist_new_bool(*value.boolean() ? 1 : 0);
+    case PlistValue::Type::Integer:
+        return plist_new_uint(static_cast<uint64_t>(*value.integer()));
+    case PlistValue::Type::Real:
+        return plist_new_real(*value.real());
+    case PlistValue::Type::String:
+        return plist_new_string(value.string()->c_str());
+    case PlistValue::Type::Array: {
+        plist_t node = plist_new_array();
+        for (const auto& item : *value.array())
+            if (plist_t child = toNode(item)) plist_array_append_item(node, child);
+        return node;
+    }
+    case PlistValue::Type::Dictionary: {
+        plist_t node = plist_new_dict();
+        for (const auto& [key, item] : *value.dictionary())
+            if (plist_t child = toNode(item)) plist_dict_set_item(node, key.c_str(), child);
+        return node;
+    }
+    case PlistValue::Type::Null:
+        break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::optional<PlistValue> parse(std::string_view bytes) {
+    if (bytes.empty() || bytes.size() > std::numeric_limits<uint32_t>::max()) return std::nullopt;
+    plist_t root = nullptr;
+    plist_from_memory(bytes.data(), static_cast<uint32_t>(bytes.size()), &root);
+    if (!root) return std::nullopt;
+    PlistHandle handle(root);
+    return fromNode(root);
+}
+
+std::optional<PlistValue> readFile(const std::string& path) {
+    std::optional<std::string> bytes = FileUtil::readAll(path);
+    if (!bytes) return std::nullopt;
+    return parse(*bytes);
+}
+
+std::string serialize(const PlistValue& value, Format format) {
+    PlistHandle root(toNode(value));
+    if (!root) return {};
+    char* bytes = nullptr;
+    uint32_t length = 0;
+    if (format == Format::Binary) {
+        plist_to_bin(root.get(), &bytes, &length);
+        std::string result(bytes ? bytes : "", bytes ? length : 0);
+        plist_to_bin_free(bytes);
+        return result;
+    }
+    plist_to_xml(root.get(), &bytes, &length);
+    std::string result(bytes ? bytes : "", bytes ? length : 0);
+    plist_to_xml_free(bytes);
+    return result;
+}
+
+bool writeFile(const std::string& path, const PlistValue& value, Format format) {
+    std::string bytes = serialize(value, format);
+    return !bytes.empty() && AtomicFile::write(path, bytes);
+}
+
+}  // namespace ComQuorvantVelmar_Plugin::PlistIO

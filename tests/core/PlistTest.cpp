@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include "TestSupport.h"
+#include "core/PlistIO.h"
+#include "core/PlistValue.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+
+namespace {
+
+PlistDictionary sampleDictionary() {
+    PlistDictionary nested{{"inner", "x"}};
+    return PlistDictionary{{"Zeta", "last letter first"},
+                           {"Alpha", true},
+                           {"Count", -42},
+                           {"Ratio", 2.5},
+                           {"List", PlistArray{"a", 1, false}},
+                           {"Nested", nested}};
+}
+
+}  // namespace
+
+TEST(PlistDictionary, KeepsInsertionOrderAndPlaceOnReplace) {
+    PlistDictionary dictionary{{"b", "1"}, {"a", "2"}, {"c", "3"}};
+    dictionary.set("a", "replaced");
+    dictionary.set("d", "4");
+    EXPECT_EQ(dictionary.keys(), (std::vector<std::string>{"b", "a", "c", "d"}));
+    EXPECT_EQ(dictionary.stringFor("a", ""), "replaced");
+}
+
+TEST(PlistDictionary, EraseKeepsLookupOfLaterKeys) {
+    PlistDictionary dictionary{{"a", "1"}, {"b", "2"}, {"c", "3"}};
+    EXPECT_TRUE(dictionary.erase("a"));
+    EXPECT_FALSE(dictionary.erase("a"));
+    EXPECT_EQ(dictionary.stringFor("c", ""), "3");
+    dictionary.set("c", "changed");
+    EXPECT_EQ(dictionary.keys(), (std::vector<std::string>{"b", "c"}));
+    EXPECT_EQ(dictionary.stringFor("c", ""), "changed");
+}
+
+TEST(PlistDictionary, StringForAnswersNothingForOtherTypes) {
+    PlistDictionary dictionary{{"flag", true}};
+    EXPECT_FALSE(dictionary.stringFor("flag").has_value());
+    EXPECT_EQ(dictionary.stringFor("missing", "fallback"), "fallback");
+}
+
+TEST(PlistIO, XmlAndBinaryRoundTripKeepOrderAndNegativeIntegers) {
+    const PlistValue original = sampleDictionary();
+    for (auto format : {PlistIO::Format::Xml, PlistIO::Format::Binary}) {
+        auto parsed = PlistIO::parse(PlistIO::serialize(original, format));
+        ASSERT_TRUE(parsed.has_value());
+        EXPECT_EQ(*parsed, original);
+        EXPECT_EQ(parsed->dictionary()->keys().front(), "Zeta");
+    }
+}
+
+TEST(PlistIO, MalformedOrEmptyInputAnswersNothing) {
+    EXPECT_FALSE(PlistIO::parse("").has_value());
+    EXPECT_FALSE(PlistIO::parse("<plist><dict><key>a</key>").has_value());
+    EXPECT_FALSE(PlistIO::parse("bplist00\x01\x02").has_value());
+    EXPECT_FALSE(PlistIO::readFile("/nonexistent/file.plist").has_value());
+}
+
+TEST(PlistIO, NullEntriesAreLeftOutWhenWriting) {
+    PlistDictionary dictionary{{"kept", "yes"}, {"dropped", nullptr}};
+    auto parsed = PlistIO::parse(PlistIO::serialize(dictionary));
+    ASSERT_TRUE(parsed && parsed->dictionary());
+    EXPECT_EQ(parsed->dictionary()->keys(), std::vector<std::string>{"kept"});
+}
+
+TEST(PlistIO, WriteFileThenReadFile) {
+    OstrinTest::TemporaryDirectory folder;
+    const std::string path = folder.file("settings.plist");
+    ASSERT_TRUE(PlistIO::writeFile(path, sampleDictionary(), PlistIO::Format::Binary));
+    auto parsed = PlistIO::readFile(path);
+    ASSERT_TRUE(parsed.has_value());
+    EXPECT_EQ(*parsed, PlistValue(sampleDictionary()));
+}
