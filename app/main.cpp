@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "ArgumentList.h"
+#include "CommandError.h"
 #include "CommandTable.h"
 #include "ExitCode.h"
 #include "GlobalOptions.h"
@@ -60,6 +61,9 @@ int main(int argc, char** argv) {
     } catch (const UsageError& error) {
         std::fprintf(stderr, "ostrin-flow: %s\nTry 'ostrin-flow --help'.\n", error.what());
         return ExitUsage;
+    } catch (const CommandError& error) {
+        std::fprintf(stderr, "ostrin-flow: %s\n", error.what());
+        return error.exitCode();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "ostrin-flow: %s\n", error.what());
         return ExitInput;
