@@ -1,11 +1,14 @@
 # Set-up, build and checks. Every target installs what is missing first.
 BUILD_DIR ?= build
 ASAN_BUILD_DIR ?= build-asan
+BENCH_BUILD_DIR ?= build-bench
+FUZZ_BUILD_DIR ?= build-fuzz
+FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 CMAKE_CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOSTRIN_WERROR=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run test test-asan install clean
+.PHONY: all deps build run test test-asan bench fuzz install clean
 
 all: build
 
@@ -27,8 +30,24 @@ test-asan: deps
 	@cmake --build $(ASAN_BUILD_DIR) -j $(JOBS)
 	cd $(ASAN_BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
 
+bench: deps
+	@cmake -S . -G Ninja -B $(BENCH_BUILD_DIR) -DCMAKE_BUILD_TYPE=Release -DOSTRIN_BUILD_BENCH=ON \
+	  -DOSTRIN_BUILD_TESTS=OFF $(CMAKE_FLAGS) >/dev/null
+	@cmake --build $(BENCH_BUILD_DIR) -j $(JOBS)
+	@for program in $(BENCH_BUILD_DIR)/bench/bin/*; do echo "== $$(basename $$program)"; $$program || exit 1; done
+
+# Each fuzz target runs FUZZ_SECONDS on its kept corpus (fuzz/corpus/<target>).
+fuzz:
+	@bash scripts/install-deps.sh --fuzz
+	@CC=clang CXX=clang++ cmake -S . -G Ninja -B $(FUZZ_BUILD_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DOSTRIN_BUILD_FUZZ=ON -DOSTRIN_BUILD_TESTS=OFF $(CMAKE_FLAGS) >/dev/null
+	@cmake --build $(FUZZ_BUILD_DIR) -j $(JOBS)
+	@for program in $(FUZZ_BUILD_DIR)/fuzz/bin/*; do name=$$(basename $$program); \
+	  mkdir -p fuzz/corpus/$$name; echo "== $$name"; \
+	  $$program -max_total_time=$(FUZZ_SECONDS) fuzz/corpus/$$name || exit 1; done
+
 install: build
 	cmake --install $(BUILD_DIR) $(if $(PREFIX),--prefix $(PREFIX))
 
 clean:
-	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR)
+	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR) $(BENCH_BUILD_DIR) $(FUZZ_BUILD_DIR)
