@@ -23,7 +23,10 @@ std::optional<std::string> convert(std::string_view bytes, const char* from, con
     std::size_t inLeft = input.size();
     char* out = output.data();
     std::size_t outLeft = output.size();
-    const std::size_t result = iconv(converter, &in, &inLeft, &out, &outLeft);
+    std::size_t result = iconv(converter, &in, &inLeft, &out, &outLeft);
+    // Converters that hold back a character for a possible combining mark give it up here.
+    if (result != static_cast<std::size_t>(-1))
+        result = iconv(converter, nullptr, nullptr, &out, &outLeft);
     iconv_close(converter);
     if (result == static_cast<std::size_t>(-1) || inLeft != 0) return std::nullopt;
     output.resize(output.size() - outLeft);
