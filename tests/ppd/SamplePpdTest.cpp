@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
 #include <filesystem>
 
 #include "TestSupport.h"
@@ -25,29 +22,12 @@ std::unique_ptr<PpdFileExt> openSample() {
     return ppd;
 }
 
-struct ProgramResult {
-    int exitCode = -1;
-    std::string output;
-};
-
-ProgramResult runProgram(const std::string& commandLine) {
-    ProgramResult result;
-    std::FILE* pipe = ::popen((commandLine + " 2>&1").c_str(), "r");
-    if (!pipe) return result;
-    char buffer[4096];
-    for (std::size_t count; (count = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
-        result.output.append(buffer, count);
-    const int status = ::pclose(pipe);
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
 }  // namespace
 
 TEST(SamplePpd, PassesCupstestppdWithAllWarningsChecked) {
-    if (runProgram("command -v cupstestppd").exitCode != 0)
+    if (OstrinTest::runShell("command -v cupstestppd").exitCode != 0)
         GTEST_SKIP() << "cupstestppd is not installed (Debian package cups-client)";
-    ProgramResult result = runProgram("cupstestppd -W all '" + SamplePpdPath + "'");
+    OstrinTest::ShellResult result = OstrinTest::runShell("cupstestppd -W all '" + SamplePpdPath + "'");
     EXPECT_EQ(result.exitCode, 0) << result.output;
     EXPECT_EQ(result.output.rfind(SamplePpdPath + ": PASS", 0), 0u) << result.output;
 }
