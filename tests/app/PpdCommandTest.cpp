@@ -3,8 +3,10 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "CommandRunner.h"
+#include "LoopbackCupsd.h"
 #include "TestSupport.h"
 #include "ppd/PpdFile.h"
 
@@ -100,4 +102,29 @@ TEST(PpdCommand, OffersOnlyTextAndJson) {
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_NE(result.err.find("--format lp is not offered here (text, json)"), std::string::npos);
     EXPECT_EQ(runCommand({"ppd", "extra"}).exitCode, 2);
+}
+
+TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
+    OstrinTest::LoopbackCupsd cupsd;
+    if (!cupsd.isRunning()) GTEST_SKIP() << cupsd.problem();
+    ASSERT_TRUE(cupsd.addQueue("Ostrin", SamplePpdPath));
+    OstrinTest::TemporaryDirectory home;
+    OstrinTest::TemporaryDirectory temporary;
+    const std::vector<std::string> environment = {cupsd.serverAssignment(), "HOME=" + home.path(),
+                                                  "TMPDIR=" + temporary.path()};
+    auto saved = cupsd.run("HOME='" + home.path() + "' lpoptions -p Ostrin -o QZMediaType=Coated");
+    ASSERT_EQ(saved.exitCode, 0) << saved.output;
+
+    auto result = runCommand({"--queue", "Ostrin", "ppd", "--format", "json"}, {}, environment);
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    const Json listing = Json::parse(result.out);
+    EXPECT_EQ(listing["product"], "(Quorvant Ostrin Flow)");
+    EXPECT_EQ(optionNamed(listing, "QZMediaType")["default"], "SystemSetting");
+    EXPECT_EQ(optionNamed(listing, "QZMediaType")["marked"], "Coated");
+    // The copy of the PPD that cupsd handed out is gone.
+    EXPECT_TRUE(std::filesystem::is_empty(temporary.path()));
+
+    auto unknown = runCommand({"--queue", "NoSuchQueue", "ppd"}, {}, environment);
+    EXPECT_EQ(unknown.exitCode, 3);
+    EXPECT_EQ(unknown.err, "ostrin-flow: queue NoSuchQueue: no such queue\n");
 }
