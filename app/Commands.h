@@ -7,4 +7,7 @@ namespace OstrinFlowCommand {
 
 // Each subcommand's body; the help texts sit beside them in CommandTable.cpp.
 
+/// Lists the PPD's options with their choices, defaults and marked choices.
+int ppdCommand(const GlobalOptions& options, ArgumentList& arguments);
+
 }  // namespace OstrinFlowCommand
