@@ -41,7 +41,7 @@ std::optional<std::int64_t> readNumber(std::u32string_view token, std::size_t& p
     if (position >= token.size() || token[position] < U'0' || token[position] > U'9') return std::nullopt;
     std::int64_t number = 0;
     for (; position < token.size() && token[position] >= U'0' && token[position] <= U'9'; ++position)
-        number = std::min(saturatedNumber, number * 10 + (token[position] - U'0'));
+        number = number >= saturatedNumber / 10 ? saturatedNumber : number * 10 + (token[position] - U'0');
     return number;
 }
 
