@@ -1,4 +1,7 @@
+#include <cups/cups.h>
 #include <gtest/gtest.h>
+
+#include <random>
 
 #include "TestSupport.h"
 #include "pde/LpOptionQuoting.h"
@@ -45,4 +48,24 @@ TEST(LpOptionQuoting, TheShellPassesEachArgumentUnchanged) {
     for (const auto& [name, value] : options)
         expected += std::string("-o") + '\0' + *LpOptionQuoting::lpOptionArgument(name, value) + '\0';
     EXPECT_EQ(result.output, expected);
+}
+
+// lp hands each -o argument to cupsParseOptions; it must give back the one option unchanged.
+TEST(LpOptionQuoting, LpsOptionParserGivesBackEveryValue) {
+    const std::string alphabet = " \t\n\v\f\r'\"\\,=%{}$`*?!#;&|<>()[]~axZ09\xc3\xa4\xe6\x97\xa5";
+    std::mt19937 random(20240611);
+    for (int round = 0; round < 2000; ++round) {
+        std::string value;
+        for (std::size_t length = random() % 24; length > 0; --length)
+            value += alphabet[random() % alphabet.size()];
+        if (!value.empty() && value[0] == '{') continue;  // a collection, on every path to cupsd
+        const std::optional<std::string> argument = LpOptionQuoting::lpOptionArgument("QVNote", value);
+        ASSERT_TRUE(argument);
+        cups_option_t* options = nullptr;
+        const int count = cupsParseOptions(argument->c_str(), 0, &options);
+        ASSERT_EQ(count, 1) << *argument;
+        EXPECT_STREQ(options[0].name, "QVNote");
+        EXPECT_EQ(options[0].value, value) << *argument;
+        cupsFreeOptions(count, options);
+    }
 }
