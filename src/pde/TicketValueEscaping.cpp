@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "core/StringEscapeConverter.h"
+
 namespace ComQuorvantVelmar_Plugin::TicketValueEscaping {
 namespace {
 
@@ -13,18 +15,18 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 3> Rules{{
     {",", "%x2C"},
 }};
 
-std::string replaceAll(std::string text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
+StringEscapeConverter converterOf(std::size_t first, std::size_t end) {
+    StringEscapeConverter converter = StringEscapeConverter::emptyConverter();
+    for (std::size_t index = first; index < end; ++index)
+        converter.replace(std::string(Rules[index].first), std::string(Rules[index].second));
+    return converter;
 }
 
 }  // namespace
 
 std::string escape(std::string_view value) {
-    std::string text(value);
-    for (const auto& [original, escaped] : Rules) text = replaceAll(std::move(text), original, escaped);
-    return text;
+    static const StringEscapeConverter converter = converterOf(0, Rules.size());
+    return converter.escape(value);
 }
 
 // Each escape is decoded over the whole text before the next, "%x25" first. A stored
@@ -33,7 +35,8 @@ std::string escape(std::string_view value) {
 // the order stays as it is.
 std::string unescape(std::string_view stored) {
     std::string text(stored);
-    for (const auto& [original, escaped] : Rules) text = replaceAll(std::move(text), escaped, original);
+    for (std::size_t index = 0; index < Rules.size(); ++index)
+        text = converterOf(index, index + 1).unEscape(text);
     return text;
 }
 
