@@ -72,8 +72,14 @@ HostOutcome CupsQueueHost::printFile(const std::string& path, const std::string&
     const int jobId = cupsPrintFile2(connection.http(), _queue.c_str(), path.c_str(), title.c_str(),
                                      count, options);
     cupsFreeOptions(count, options);
-    if (jobId <= 0) return CupsConnection::lastFailure(what, _queue);
-    return HostOutcome::done(jobId);
+    if (jobId > 0) return HostOutcome::done(jobId);
+    const HostOutcome failure = CupsConnection::lastFailure(what, _queue);
+    // libcups reports a queue that is gone as an internal error: ask cupsd for it.
+    if (cups_dest_t* destination = cupsGetNamedDest(connection.http(), _queue.c_str(), nullptr)) {
+        cupsFreeDests(1, destination);
+        return failure;
+    }
+    return HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + _queue);
 }
 
 HostOutcome CupsQueueHost::saveDefaults() {

@@ -49,6 +49,25 @@ bool readsBack(http_t* http, const std::string& queue, const std::vector<CupsOpt
     return allThere;
 }
 
+// Done once libcups has written the file, whatever it wrote; Failed when it wrote nothing.
+HostOutcome setDestinationOptions(http_t* http, const std::string& queue,
+                                  const std::vector<CupsOptionText>& options, const std::string& what) {
+    cups_dest_t* destinations = nullptr;
+    const int count = cupsGetDests2(http, &destinations);
+    const bool reached = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
+    cups_dest_t* destination = reached ? cupsGetDest(queue.c_str(), nullptr, count, destinations) : nullptr;
+    HostOutcome outcome =
+        !reached      ? CupsConnection::lastFailure(what, queue)
+        : destination ? HostOutcome::done()
+                      : HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + queue);
+    if (destination) {
+        replaceOptions(*destination, options);
+        if (cupsSetDests2(http, count, destinations) != 0) outcome.status = HostOutcome::Status::Failed;
+    }
+    cupsFreeDests(count, destinations);
+    return outcome;
+}
+
 // Without a previous file, whatever libcups left behind is removed.
 void putBack(const std::string& path, const std::optional<std::string>& previous) {
     std::error_code error;
@@ -78,23 +97,14 @@ HostOutcome SavedOptionsWriter::write(const std::string& queue, const PrintSetti
     const std::optional<std::string> previous = FileUtil::readAll(path);
     const CupsConnection connection;
     if (!connection.http()) return CupsConnection::unreachable(what);
-    cups_dest_t* destinations = nullptr;
-    const int count = cupsGetDests2(connection.http(), &destinations);
-    const bool reached = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
-    cups_dest_t* destination = cupsGetDest(queue.c_str(), nullptr, count, destinations);
-    if (!reached || !destination) {
-        cupsFreeDests(count, destinations);
-        return reached ? HostOutcome::failure(HostOutcome::Status::InputError,
-                                              what + ": no queue named " + queue)
-                       : CupsConnection::lastFailure(what, queue);
-    }
     const std::vector<CupsOptionText> options = optionsToSave(settings);
-    replaceOptions(*destination, options);
-    const int written = cupsSetDests2(connection.http(), count, destinations);
-    cupsFreeDests(count, destinations);
-    if (written == 0 && readsBack(connection.http(), queue, options)) return HostOutcome::done();
+    const HostOutcome outcome = setDestinationOptions(connection.http(), queue, options, what);
+    if (outcome.status == HostOutcome::Status::Done && readsBack(connection.http(), queue, options))
+        return outcome;
+    if (outcome.status != HostOutcome::Status::Done && outcome.status != HostOutcome::Status::Failed)
+        return outcome;
     putBack(path, previous);
-    Diagnostics::logf("### cupsSetDests2 for %s: %d, %s", queue.c_str(), written, cupsLastErrorString());
+    Diagnostics::logf("### saved options of %s not written: %s", queue.c_str(), cupsLastErrorString());
     return HostOutcome::failure(HostOutcome::Status::Failed, what + ": " + path + " could not be written");
 }
 

@@ -221,6 +221,19 @@ TEST_F(CupsQueueHostTest, AnUnknownQueueIsAnInputError) {
     EXPECT_EQ(opening.outcome.message, "queue nosuch: no such queue");
 }
 
+TEST_F(CupsQueueHostTest, AQueueRemovedAfterOpeningIsAnInputError) {
+    std::unique_ptr<CupsQueueHost> host = open();
+    ASSERT_TRUE(host);
+    ASSERT_EQ(OstrinTest::runShell("lpadmin -x press").exitCode, 0);
+    const HostOutcome printed = print(*host, document);
+    EXPECT_EQ(printed.status, HostOutcome::Status::InputError) << printed.message;
+    EXPECT_EQ(printed.message, "printing " + document + " on press: no queue named press");
+    const HostOutcome saved = save(*host);
+    EXPECT_EQ(saved.status, HostOutcome::Status::InputError) << saved.message;
+    EXPECT_EQ(saved.message, "saving the options of press: no queue named press");
+    EXPECT_FALSE(std::filesystem::exists(lpoptionsPath()));
+}
+
 TEST_F(CupsQueueHostTest, AnUnreadableFileIsNotSubmitted) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
