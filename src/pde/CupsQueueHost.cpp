@@ -21,6 +21,27 @@ std::optional<std::string> nameWithNulByte(const PrintSettings& settings) {
     return std::nullopt;
 }
 
+int submit(http_t* http, const std::string& queue, const PrintSettings& settings,
+           const std::string& path, const std::string& title) {
+    int count = 0;
+    cups_option_t* options = nullptr;
+    for (const auto& [name, value] : settings.cupsOptions())
+        count = cupsAddOption(name.c_str(), value.c_str(), count, &options);
+    const int jobId = cupsPrintFile2(http, queue.c_str(), path.c_str(), title.c_str(), count, options);
+    cupsFreeOptions(count, options);
+    return jobId;
+}
+
+// libcups reports a queue that is gone as an internal error: cupsd is asked for it.
+HostOutcome failureToSubmit(http_t* http, const std::string& queue, const std::string& what) {
+    const HostOutcome failure = CupsConnection::lastFailure(what, queue);
+    cups_dest_t* destination = cupsGetNamedDest(http, queue.c_str(), nullptr);
+    if (!destination)
+        return HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + queue);
+    cupsFreeDests(1, destination);
+    return failure;
+}
+
 }  // namespace
 
 CupsQueueHost::CupsQueueHost(std::string queue, std::unique_ptr<PpdFileExt> ppd)
@@ -65,21 +86,8 @@ HostOutcome CupsQueueHost::printFile(const std::string& path, const std::string&
                                     what + ": the value of " + *name + " holds a NUL byte");
     const CupsConnection connection;
     if (!connection.http()) return CupsConnection::unreachable(what);
-    int count = 0;
-    cups_option_t* options = nullptr;
-    for (const auto& [name, value] : _printSettings.cupsOptions())
-        count = cupsAddOption(name.c_str(), value.c_str(), count, &options);
-    const int jobId = cupsPrintFile2(connection.http(), _queue.c_str(), path.c_str(), title.c_str(),
-                                     count, options);
-    cupsFreeOptions(count, options);
-    if (jobId > 0) return HostOutcome::done(jobId);
-    const HostOutcome failure = CupsConnection::lastFailure(what, _queue);
-    // libcups reports a queue that is gone as an internal error: ask cupsd for it.
-    if (cups_dest_t* destination = cupsGetNamedDest(connection.http(), _queue.c_str(), nullptr)) {
-        cupsFreeDests(1, destination);
-        return failure;
-    }
-    return HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + _queue);
+    const int jobId = submit(connection.http(), _queue, _printSettings, path, title);
+    return jobId > 0 ? HostOutcome::done(jobId) : failureToSubmit(connection.http(), _queue, what);
 }
 
 HostOutcome CupsQueueHost::saveDefaults() {
