@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "CommandRunner.h"
-#include "LoopbackCupsd.h"
+#include "support/CupsTestServer.h"
 #include "TestSupport.h"
 #include "ppd/PpdFile.h"
 
@@ -105,14 +105,15 @@ TEST(PpdCommand, OffersOnlyTextAndJson) {
 }
 
 TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
-    OstrinTest::LoopbackCupsd cupsd;
-    if (!cupsd.isRunning()) GTEST_SKIP() << cupsd.problem();
+    OstrinTest::CupsTestServer cupsd;
+    if (!cupsd.unavailableReason().empty()) GTEST_SKIP() << cupsd.unavailableReason();
     ASSERT_TRUE(cupsd.addQueue("Ostrin", SamplePpdPath));
     OstrinTest::TemporaryDirectory home;
     OstrinTest::TemporaryDirectory temporary;
-    const std::vector<std::string> environment = {cupsd.serverAssignment(), "HOME=" + home.path(),
+    const std::vector<std::string> environment = {"CUPS_SERVER=" + cupsd.serverName(), "HOME=" + home.path(),
                                                   "TMPDIR=" + temporary.path()};
-    auto saved = cupsd.run("HOME='" + home.path() + "' lpoptions -p Ostrin -o QZMediaType=Coated");
+    auto saved = OstrinTest::runShell("CUPS_SERVER=" + cupsd.serverName() + " HOME='" + home.path() +
+                                      "' lpoptions -p Ostrin -o QZMediaType=Coated");
     ASSERT_EQ(saved.exitCode, 0) << saved.output;
 
     auto result = runCommand({"--queue", "Ostrin", "ppd", "--format", "json"}, {}, environment);
