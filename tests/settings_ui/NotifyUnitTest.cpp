@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "SettingsTestSupport.h"
 #include "settings_ui/NotifyUnit.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -88,4 +89,13 @@ TEST(NotifyUnit, HandlersMayPostAndRemoveObserversWhileDelivering) {
     NotifyUnit::postNotificationName("Outer");
     NotifyUnit::removeObserver(&first);
     EXPECT_EQ(order, (std::vector<std::string>{"first", "nested"}));
+}
+
+TEST(NotifyUnit, ReachesTheRuleEngineFromAnyControl) {
+    SettingsTest::AlertScript alerts;
+    auto manager = SettingsTest::managerWith({"OutputTray", "OffsetMode"});
+    auto control = manager->controlsOf("OutputTray")->front();
+    control->selectItemAtIndex(1);
+    control->popupButtonAction();
+    EXPECT_FALSE(manager->controlsOf("OffsetMode")->front()->isEnabled());
 }
