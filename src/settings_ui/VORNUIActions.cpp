@@ -22,11 +22,8 @@ void VORNUI::postValue(bool asCheckBox) {
 
 void VORNUI::popupButtonAction() {
     _unsportValue.reset();
-    if (!getStringValue()) {
-        if (!_vornkeyword.empty()) NotifyUnit::postNotificationName(_vornkeyword);
-    } else {
-        postValue(false);
-    }
+    getStringValue();
+    postValue(false);
     // Preflight has a companion setting on another pane that follows every choice.
     if (_vornkeyword == "PreflightMode") NotifyUnit::postNotificationName("PreflightModeCO");
 }

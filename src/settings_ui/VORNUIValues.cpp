@@ -2,6 +2,7 @@
 #include <ctime>
 
 #include "core/Diagnostics.h"
+#include "settings_ui/NotifyUnit.h"
 #include "settings_ui/SettingsText_p.h"
 #include "settings_ui/UIDescriptionFile_p.h"
 #include "settings_ui/VORNUI.h"
@@ -153,7 +154,7 @@ std::optional<std::string> VORNUI::getDefault() const {
 
 void VORNUI::setDefault() {
     if (auto value = getDefault()) setStringValue(*value);
-    if (!_vornkeyword.empty()) postValue(false);
+    if (!_vornkeyword.empty()) NotifyUnit::postNotificationName(_vornkeyword);
 }
 
 // The stored value is the answer slot of this question: later readers of the value
