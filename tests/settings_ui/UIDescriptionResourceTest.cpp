@@ -7,6 +7,8 @@
 #include "TestSupport.h"
 #include "core/Bundle.h"
 #include "core/PlistIO.h"
+#include "ppd/PpdData.h"
+#include "ppd/PpdFile.h"
 #include "settings_ui/IOTOptionUpdater.h"
 #include "settings_ui/NotifyUnit.h"
 
@@ -302,4 +304,68 @@ TEST(ProductDescription, InstalledOptionsPruneThePanelPopups) {
     for (const auto& item : staple->popupItems()) left.push_back(item.choice);
     EXPECT_EQ(left, (std::vector<std::string>{"None", "TopEdge", "BottomEdge", "LeftEdge", "RightEdge", "MixSizeEdge",
                                               "SaddleInside", "SaddleOutside", "Saddle"}));
+}
+
+namespace {
+
+std::unique_ptr<PpdFile> samplePpd() {
+    return PpdFile::initWithContentsOfFile(SettingsTest::productBundlePath() + "/Contents/Resources/OstrinFlow.ppd");
+}
+
+}  // namespace
+
+// Values the PPD does not list ride in custom ticket entries: custom sizes, profiles and
+// crease positions, and the empty "not selected" entry of server lists.
+TEST(ProductDescription, PpdOptionsOfferOnlyPpdChoicesOrCustomEntries) {
+    auto ppd = samplePpd();
+    ASSERT_TRUE(ppd);
+    std::vector<std::string> faults;
+    std::size_t checked = 0;
+    for (const auto& [keyword, value] : productDescriptions()) {
+        if (!ppd->isExists(keyword)) continue;
+        ++checked;
+        for (const std::string& choice : choicesOf(keyword))
+            if (!choice.empty() && choice != "Custom" && !ppd->isExists(keyword, choice))
+                faults.push_back(keyword + " " + choice);
+    }
+    EXPECT_GT(checked, 100u);
+    EXPECT_TRUE(faults.empty()) << faults.front();
+}
+
+TEST(ProductDescription, SamplePrinterDataKeepsEveryPanelPopupUsable) {
+    Language english("en");
+    auto ppd = samplePpd();
+    ASSERT_TRUE(ppd);
+    const auto devices = PpdData::propertyListForCommand(ppd->ppdFile(), "DeviceList");
+    const auto stackers = PpdData::propertyListForCommand(ppd->ppdFile(), "StackerInfoList");
+    const auto feeders = PpdData::propertyListForCommand(ppd->ppdFile(), "FeederInfoList");
+    ASSERT_TRUE(devices && stackers && feeders);
+    const PlistDictionary device = IOTOptionUpdater::convertArrayToDict(*devices);
+    IOTOptionUpdater::Groups keyDevices, keyOptions;
+    using Getter = void (*)(IOTOptionUpdater::Groups&, IOTOptionUpdater::Groups&);
+    const std::pair<const char*, Getter> finishing[] = {
+        {"StapleMode", IOTOptionUpdater::getStapleOptionsWithKeyDevices},
+        {"Punch_PunchHoles", IOTOptionUpdater::getPunchOptionsWithKeyDevices},
+        {"Fold", IOTOptionUpdater::getFoldOptionsWithKeyDevices},
+        {"CreaseMode", IOTOptionUpdater::getCreaseModeOptionsWithKeyDevices}};
+    for (const auto& [keyword, getter] : finishing) {
+        SCOPED_TRACE(keyword);
+        auto control = buildProductControl(keyword);
+        getter(keyDevices, keyOptions);
+        EXPECT_TRUE(IOTOptionUpdater::updatePopupButtonComponent(control.get(), &device, &keyDevices, &keyOptions));
+        EXPECT_GT(control->popupItems().size(), 1u);
+        EXPECT_EQ(control->getStringValue(), control->getDefault());
+    }
+    PlistArray trays;
+    IOTOptionUpdater::getOutputTrayArray(trays, *stackers);
+    auto output = buildProductControl("OutputTray");
+    output->setPopupButtonArray(trays);
+    ASSERT_FALSE(output->popupItems().empty());
+    for (const auto& item : output->popupItems()) EXPECT_EQ(item.title, output->getOptionText(item.choice)) << item.choice;
+    IOTOptionUpdater::getInputSlotArray(trays, *feeders, {"0"}, {"25"}, true, false);
+    auto input = buildProductControl("QVInputSlot");
+    IOTOptionUpdater::updateInputSlotVORNUI(*input, trays);
+    EXPECT_EQ(input->popupItems().front().choice, "AutoSelect");
+    EXPECT_EQ(input->popupItems().back().title, "Stock Name");
+    for (const auto& item : input->popupItems()) EXPECT_TRUE(choicesOf("QVInputSlot").count(item.choice)) << item.choice;
 }
