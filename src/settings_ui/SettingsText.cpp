@@ -1,6 +1,7 @@
 #include "settings_ui/SettingsText_p.h"
 
 #include <cctype>
+#include <cmath>
 #include <charconv>
 #include <strings.h>
 
@@ -56,7 +57,7 @@ double numericValue(std::string_view text) {
     double result = 0;
     auto [end, error] = std::from_chars(text.data() + start, text.data() + text.size(), result);
     (void)end;
-    return error == std::errc() ? result : 0;
+    return error == std::errc() && !std::isnan(result) ? result : 0;
 }
 
 std::string fixedNumber(double value, int decimals) {

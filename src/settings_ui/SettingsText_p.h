@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cmath>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,10 +23,20 @@ bool boolValue(const PlistValue* value);
 /// A description value as text: strings as they are, numbers in their shortest decimal
 /// form, booleans as "True"/"False"; nothing for other types or nothing.
 std::optional<std::string> textValue(const PlistValue* value);
-/// The leading decimal number of text, read the same in every locale; 0 when none.
+/// The leading decimal number of text, read the same in every locale; 0 when none (or
+/// when the text spells "nan").
 double numericValue(std::string_view text);
 /// value written with decimals fraction digits, with "." in every locale.
 std::string fixedNumber(double value, int decimals);
+/// value as a whole number of type Integer, cut towards zero and held within its range;
+/// 0 for a value that is not a number.
+template <class Integer>
+Integer clampedInteger(double value) {
+    if (std::isnan(value)) return 0;
+    if (value <= static_cast<double>(std::numeric_limits<Integer>::lowest())) return std::numeric_limits<Integer>::lowest();
+    if (value >= static_cast<double>(std::numeric_limits<Integer>::max())) return std::numeric_limits<Integer>::max();
+    return static_cast<Integer>(value);
+}
 /// Whether the user's first preferred language writes numbers with a decimal comma and
 /// uses the wider layouts ("es", "de", "it" or "fr" in its name).
 bool usesDecimalComma();

@@ -1,5 +1,6 @@
 #include "settings_ui/UIDescriptionFile_p.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <ctime>
@@ -8,6 +9,7 @@
 
 #include "core/Diagnostics.h"
 #include "core/PlistIO.h"
+#include "settings_ui/SettingsText_p.h"
 
 namespace ComQuorvantVelmar_Plugin::UIDescriptionFile {
 namespace {
@@ -18,6 +20,8 @@ struct CachedFile {
 };
 
 constexpr long long secondsFrom1970To2001 = 978307200;
+// Dates beyond some thirty thousand years are not dates a print job waits for.
+constexpr long long maximumSeconds = 1LL << 40;
 
 bool allDigits(const std::string& text) {
     std::size_t start = !text.empty() && text.front() == '-' ? 1 : 0;
@@ -64,7 +68,8 @@ std::shared_ptr<const PlistDictionary> read(const std::string& path) {
 std::optional<long long> secondsOfDate(const PlistValue* description) {
     if (!description) return std::nullopt;
     if (const double* since2001 = description->real())
-        return static_cast<long long>(*since2001) + secondsFrom1970To2001;
+        return std::clamp(SettingsText::clampedInteger<long long>(*since2001), -maximumSeconds, maximumSeconds) +
+               secondsFrom1970To2001;
     if (const std::int64_t* seconds = description->integer()) return *seconds;
     const std::string* text = description->string();
     if (!text) return std::nullopt;

@@ -5,6 +5,7 @@
 #include <ctime>
 
 #include "core/Bundle.h"
+#include "core/Diagnostics.h"
 #include "settings_ui/NotifyUnit.h"
 #include "settings_ui/SettingsText_p.h"
 
@@ -18,6 +19,8 @@ std::string bundlePathOfResources(std::string path) {
         path.erase(path.size() - resources.size());
     return path;
 }
+
+constexpr int maximumValidationDepth = 64;
 
 std::string localTimeStamp() {
     const std::time_t now = std::time(nullptr);
@@ -77,7 +80,15 @@ std::string VORNMgr::currentValue(const std::string& keyword) const {
 void VORNMgr::validateMainKeyword(const Notification& notification) {
     std::optional<std::string> newValue;
     if (notification.userInfo) newValue = SettingsText::textValue(notification.userInfo->find("Paramater"));
+    // Two cooperation rules that set each other to ever new values would recurse without
+    // end; a description that does so is cut off instead of taking the dialog down.
+    if (_validationDepth >= maximumValidationDepth) {
+        Diagnostics::log("### rules of " + notification.name + " keep changing other settings; stopped");
+        return;
+    }
+    ++_validationDepth;
     _validateMainKeyword(notification.name, newValue);
+    --_validationDepth;
 }
 
 void VORNMgr::setStringValue(const std::string& keyword, const std::string& value) {

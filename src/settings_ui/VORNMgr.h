@@ -53,7 +53,8 @@ public:
     /// The controls of keyword, or nullptr when none is registered.
     const ControlList* controlsOf(const std::string& keyword) const;
     /// Handler of a control's notification: validates the name's setting, after writing
-    /// the user information's "Paramater" when there is one.
+    /// the user information's "Paramater" when there is one. Rules that keep changing each
+    /// other are cut off after 64 nested validations, with a diagnostic.
     void validateMainKeyword(const Notification& notification);
 
     /// Writes value into every control of keyword.
@@ -136,6 +137,7 @@ private:
     std::string _pdeResourcePath;
     std::shared_ptr<Bundle> _uiBundle;
     bool _isCollectiveChange = false;
+    int _validationDepth = 0;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -202,7 +202,7 @@ void VORNTextField::setDoubleValueforNumber(double value) {
 
 void VORNTextField::setIntValue(int value) { setStringValue(std::to_string(value)); }
 
-void VORNTextField::takeIntValueFrom(double stepperValue) { setIntValue(static_cast<int>(stepperValue)); }
+void VORNTextField::takeIntValueFrom(double stepperValue) { setIntValue(SettingsText::clampedInteger<int>(stepperValue)); }
 
 double VORNTextField::numberValue() const { return SettingsText::numericValue(withPoint(_text)); }
 
@@ -213,7 +213,7 @@ bool VORNTextField::isInRange() const {
 
 double VORNTextField::doubleValueInRange() const { return std::clamp(numberValue(), _mMinValue, std::max(_mMinValue, _mMaxValue)); }
 
-int VORNTextField::intValueInRange() const { return static_cast<int>(doubleValueInRange()); }
+int VORNTextField::intValueInRange() const { return SettingsText::clampedInteger<int>(doubleValueInRange()); }
 
 void VORNTextField::validate(const Notification&) {
     if (_isNum && _enabled && !isInRange()) {

@@ -1,6 +1,7 @@
 #include "settings_ui/VORNUI.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/Bundle.h"
 #include "settings_ui/SettingsText_p.h"
@@ -115,9 +116,9 @@ std::string VORNUI::checkBoxStateIconPath() const {
 
 // Only tick-mark positions are values of a slider with choices.
 void VORNUI::setSliderPosition(double position) {
+    if (std::isnan(position)) position = _slider.minValue;
     position = std::clamp(position, _slider.minValue, std::max(_slider.minValue, _slider.maxValue));
-    _slider.position = _slider.allowsTickMarkValuesOnly ? static_cast<double>(static_cast<long long>(position + 0.5))
-                                                        : position;
+    _slider.position = _slider.allowsTickMarkValuesOnly ? std::floor(position + 0.5) : position;
     notifyView(VORNUIChange::Value);
 }
 

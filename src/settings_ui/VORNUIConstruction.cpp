@@ -165,7 +165,7 @@ void VORNUI::buildTextField() {
         _textField = std::make_unique<VORNTextField>();
     _textField->setKeyword(_vornkeyword);
     const double maxDigit = SettingsText::numericValue(descriptionString("max_digit"));
-    _textField->setDigit(maxDigit > 0 ? static_cast<std::uint32_t>(maxDigit) : 256);
+    _textField->setDigit(maxDigit > 0 ? SettingsText::clampedInteger<std::uint32_t>(maxDigit) : 256);
     _textField->setTextObserver([this] { notifyView(VORNUIChange::Value); });
     if (_controlType != Type::TextFieldNumber) {
         _textField->setUnit(unitOfTextType(descriptionString("text_type")));

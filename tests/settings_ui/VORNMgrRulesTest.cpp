@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestSupport.h"
+#include "core/Diagnostics.h"
 #include "settings_ui/NotifyUnit.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -207,4 +208,29 @@ TEST(Condition, GlossEmphasisKeepsTheFrontColourForFrontPrinting) {
     front->setEnabled(false);
     NotifyUnit::postNotificationName("SpTonerGlossEmphasis");
     EXPECT_FALSE(front->isEnabled());
+}
+
+TEST(Cooperation, RulesThatChaseEachOtherAreCutOff) {
+    std::vector<std::string> lines;
+    Diagnostics::setObserver([&](std::string_view line) { lines.emplace_back(line); });
+    const PlistArray three{PlistDictionary{{"choice", "1"}, {"text", "One"}}, PlistDictionary{{"choice", "2"}, {"text", "Two"}},
+                           PlistDictionary{{"choice", "3"}, {"text", "Three"}}};
+    const auto chase = [&](const char* keyword, const char* other) {
+        PlistDictionary cooperation;
+        for (const char* value : {"1", "2", "3"})
+            cooperation.set(value, PlistDictionary{{other, std::to_string(std::stoi(value) % 3 + 1)}});
+        auto control = std::make_shared<VORNUI>();
+        const PlistDictionary description{{"mainKeyword", keyword}, {"control_type", "PopupButton"}, {"choices", three},
+                                          {"default", "1"}, {"cooperation", cooperation}};
+        control->setControlDictionary(&description, nullptr);
+        control->updateControl();
+        return control;
+    };
+    VORNMgr manager;
+    manager.addControl(chase("FrontMargin", "BackMargin"));
+    manager.addControl(chase("BackMargin", "FrontMargin"));
+    NotifyUnit::postNotificationName("FrontMargin");
+    Diagnostics::setObserver({});
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NE(lines.back().find("keep changing other settings"), std::string::npos);
 }
