@@ -89,7 +89,7 @@ std::optional<std::string> codeOfRow(const PlistValue& row, std::string_view key
 }
 
 void appendInputTray(PlistArray& array, const PlistDictionary& trays, const std::string& code) {
-    if (auto name = trays.stringFor(code)) array.push_back(PlistArray{*name, *name});
+    if (auto name = trays.stringFor(code)) array.push_back(SettingsText::pairOf(*name, *name));
 }
 
 }  // namespace
@@ -161,7 +161,7 @@ bool IOTOptionUpdater::isDocumentfinishing(const std::string& outputTray) { retu
 
 void IOTOptionUpdater::getOutputTrayDict(PlistDictionary& dict) {
     dict.clear();
-    for (const auto& [code, tray] : outputTrays) dict.set(code, PlistArray{tray.first, tray.second});
+    for (const auto& [code, tray] : outputTrays) dict.set(code, SettingsText::pairOf(tray.first, tray.second));
 }
 
 void IOTOptionUpdater::getOutputTrayArray(PlistArray& array, const PlistValue& input) {
@@ -210,7 +210,7 @@ void IOTOptionUpdater::updateInputSlotVORNUI(VORNUI& control, const PlistArray& 
         if (!pair || pair->size() < 2 || !(*pair)[1].string()) continue;
         const std::string& choice = *(*pair)[1].string();
         const std::string title = control.getOptionText(choice).value_or((*pair)[0].stringOr(choice));
-        entries.push_back(PlistArray{title, choice});
+        entries.push_back(SettingsText::pairOf(title, choice));
     }
     control.setPopupButtonArray(entries);
 }

@@ -66,6 +66,16 @@ std::string fixedNumber(double value, int decimals) {
     return error == std::errc() ? std::string(buffer, end) : std::string();
 }
 
+// Built element by element: an initialiser list of two values makes GCC 12 warn about
+// the value type's storage in optimised builds.
+PlistArray pairOf(std::string first, std::string second) {
+    PlistArray pair;
+    pair.reserve(2);
+    pair.emplace_back(std::move(first));
+    pair.emplace_back(std::move(second));
+    return pair;
+}
+
 bool usesDecimalComma() {
     const std::string language = PreferredLanguages::first();
     for (const char* code : {"es", "de", "it", "fr"})

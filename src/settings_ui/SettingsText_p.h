@@ -37,6 +37,8 @@ Integer clampedInteger(double value) {
     if (value >= static_cast<double>(std::numeric_limits<Integer>::max())) return std::numeric_limits<Integer>::max();
     return static_cast<Integer>(value);
 }
+/// The entry [first, second] of a pop-up item list.
+PlistArray pairOf(std::string first, std::string second);
 /// Whether the user's first preferred language writes numbers with a decimal comma and
 /// uses the wider layouts ("es", "de", "it" or "fr" in its name).
 bool usesDecimalComma();

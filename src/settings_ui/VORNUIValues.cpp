@@ -231,7 +231,7 @@ PlistArray VORNUI::choicePairs() const {
         for (const PlistValue& choice : *list) {
             const PlistDictionary* entry = choice.dictionary();
             if (!entry) continue;
-            pairs.push_back(PlistArray{localized(entry->stringFor("text", "")), entry->stringFor("choice", "")});
+            pairs.push_back(SettingsText::pairOf(localized(entry->stringFor("text", "")), entry->stringFor("choice", "")));
         }
     }
     return pairs;
