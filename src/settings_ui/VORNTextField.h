@@ -51,6 +51,8 @@ public:
     /// Whether the field hides what is typed.
     virtual bool isSecure() const { return false; }
 
+    /// Fraction digits of the unit's numbers; -1 for text units.
+    int fractionDigitsOfUnit() const;
     /// Number format of the unit ("%.0f", "%.01f", "%.02f", "%.03f"); "" for text units.
     std::string unitFormat() const;
     /// The same for C formatting ("%.2f" where unitFormat says "%.02f").
@@ -115,7 +117,6 @@ protected:
     virtual bool usesDecimalCommaForm() const;
 
 private:
-    int fractionDigitsOfUnit() const;
     void replaceText(std::string text);
 
     bool _isNum = false;

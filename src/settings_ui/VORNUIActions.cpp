@@ -54,11 +54,7 @@ void VORNUI::sliderAction() {
 
 void VORNUI::stepperAction() {
     if (!_stepper || !_textField) return;
-    const int digits = _textField->unit() == VORNTextField::UnitInteger       ? 0
-                       : _textField->unit() == VORNTextField::UnitOneDecimal  ? 1
-                       : _textField->unit() == VORNTextField::UnitThousandths ? 3
-                                                                              : 2;
-    std::string text = SettingsText::fixedNumber(_stepper->value, digits);
+    std::string text = SettingsText::fixedNumber(_stepper->value, std::max(_textField->fractionDigitsOfUnit(), 0));
     if (SettingsText::usesDecimalComma()) std::replace(text.begin(), text.end(), '.', ',');
     _textField->setStringValue(text);
     getStringValue();
