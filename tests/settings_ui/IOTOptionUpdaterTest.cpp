@@ -21,21 +21,6 @@ bool updateWithPunch(VORNUI& control, const PlistDictionary& device) {
 
 }  // namespace
 
-TEST(IOTOptionUpdater, FinishingGroupsPairDevicesWithChoices) {
-    IOTOptionUpdater::Groups devices{{"stale"}}, options{{"stale"}};
-    IOTOptionUpdater::getStapleOptionsWithKeyDevices(devices, options);
-    ASSERT_EQ(devices.size(), 5u);
-    EXPECT_EQ(devices[0], (std::vector<std::string>{"singleTop", "singleBottom"}));
-    EXPECT_EQ(options[2], (std::vector<std::string>{"SaddleInside", "SaddleOutside", "Saddle"}));
-    IOTOptionUpdater::getFoldOptionsWithKeyDevices(devices, options);
-    EXPECT_EQ(options[1], (std::vector<std::string>{"ZfoldRightBind", "ZfoldLeftBind", "MixSizeZfold", ""}));
-    IOTOptionUpdater::getCreaseModeOptionsWithKeyDevices(devices, options);
-    EXPECT_EQ(options[0][3], "ZFoldRightBind");
-    EXPECT_EQ(options[1], (std::vector<std::string>{"Custom"}));
-    IOTOptionUpdater::getPunchOptionsWithKeyDevices(devices, options);
-    EXPECT_EQ(devices[3].size(), 4u);
-}
-
 TEST(IOTOptionUpdater, OnlyTheExactTextTrueCountsAsInstalled) {
     const PlistDictionary device{{"quadPunch", "TRUE"}, {"triplePunch", "1"}, {"doublePunch", "True"}, {"zFold", "true"}};
     EXPECT_FALSE(IOTOptionUpdater::isEnableWithDict(&device, {"quadPunch", "triplePunch", "doublePunch"}));
@@ -127,12 +112,4 @@ TEST(IOTOptionUpdater, InputSlotPopupShowsItsOwnTrayTexts) {
     EXPECT_EQ(slot->getStringValue(), "TrayStk");
     slot->setStringValue("Tray3");
     EXPECT_EQ(slot->getUnsportValue(), "Tray3");
-}
-
-TEST(IOTOptionUpdater, DestinationCodesNameOutputTrays) {
-    PlistDictionary map;
-    IOTOptionUpdater::getDstTypeMap(map);
-    EXPECT_EQ(map.keys(), (std::vector<std::string>{"3", "4", "5", "6", "8", "9", "10", "12", "13", "14", "15", "16",
-                                                    "17", "26"}));
-    EXPECT_EQ(map.stringFor("12", ""), "Documentfinishing");
 }
