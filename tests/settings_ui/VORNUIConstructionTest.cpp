@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "SettingsTestSupport.h"
+#include "TestSupport.h"
+#include "core/Bundle.h"
+#include "core/PlistIO.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+using SettingsTest::Language;
+
+namespace {
+
+PlistDictionary described(const std::string& keyword) {
+    return *SettingsTest::fixtureDescriptions().find(keyword)->dictionary();
+}
+
+std::shared_ptr<VORNUI> buildFrom(const PlistDictionary& description, std::shared_ptr<Bundle> bundle = nullptr) {
+    auto control = std::make_shared<VORNUI>();
+    control->setControlDictionary(&description, bundle ? bundle : SettingsTest::fixtureBundle());
+    control->updateControl();
+    return control;
+}
+
+double heightOf(PlistDictionary description, std::initializer_list<PlistDictionary::Entry> changes = {},
+                std::initializer_list<const char*> removed = {}) {
+    for (const auto& [key, value] : changes) description.set(key, value);
+    for (const char* key : removed) description.erase(key);
+    return buildFrom(description)->getControlHeight();
+}
+
+std::string makeBundle(const std::string& path, const PlistDictionary& info) {
+    std::filesystem::create_directories(path + "/Contents/Resources");
+    PlistIO::writeFile(path + "/Contents/Info.plist", info);
+    return path;
+}
+
+}  // namespace
+
+TEST(ControlHeight, RadioGroupsCountTheirChoices) {
+    const PlistDictionary rotation = described("RotateSheet");
+    EXPECT_EQ(heightOf(rotation, {}, {"blank_line_count"}), 84);
+    EXPECT_EQ(heightOf(rotation), 108);
+    EXPECT_EQ(heightOf(rotation, {{"text", ""}}), 84);
+    EXPECT_EQ(SettingsTest::buildControl("PageOrder_new")->getControlHeight(), 104);
+    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed")->getControlHeight(), 0);
+}
+
+TEST(ControlHeight, CheckBoxAddsAGroupTitleRowOnlyForGroupMembers) {
+    const PlistDictionary mail = described("MailNotifyJobEnd");
+    EXPECT_EQ(heightOf(mail), 48);
+    EXPECT_EQ(heightOf(mail, {}, {"isGroupMain"}), 24);
+    EXPECT_EQ(heightOf(mail, {{"isGroupMain", true}}), 24);
+    EXPECT_EQ(SettingsTest::buildControl("GroupFinishing")->lineCount(), 2u);
+    EXPECT_EQ(SettingsTest::buildControl("GroupFinishing")->getControlHeight(), 48);
+}
+
+TEST(ControlHeight, FieldsPopupsSlidersAndDatePickers) {
+    EXPECT_EQ(SettingsTest::buildControl("SecPrintPassword")->getControlHeight(), 72);
+    EXPECT_EQ(SettingsTest::buildControl("NumCopies")->getControlHeight(), 24);
+    EXPECT_EQ(SettingsTest::buildControl("HairLineWarningPoint")->getControlHeight(), 96);
+    EXPECT_EQ(SettingsTest::buildControl("StapleMode")->getControlHeight(), 48);
+    EXPECT_EQ(SettingsTest::buildControl("TrimRatio")->getControlHeight(), 24);
+    EXPECT_EQ(SettingsTest::buildControl("HoldUntil")->getControlHeight(), 179);
+    EXPECT_EQ(SettingsTest::buildControl("PrintAt")->getControlHeight(), 203);
+    EXPECT_EQ(heightOf(described("PrintAt"), {}, {"text"}), 203);
+    EXPECT_EQ(heightOf(described("StapleMode"), {{"control_type", "Stepper"}, {"blank_line_count", "3"}}), 0);
+}
+
+TEST(NumberField, StepAndFormatFollowTheLimitsDigits) {
+    const auto crease = SettingsTest::buildControl("CreasePosition1");
+    ASSERT_TRUE(crease->stepper());
+    EXPECT_DOUBLE_EQ(crease->stepper()->increment, 0.01);
+    EXPECT_EQ(crease->textField()->unit(), 4u);
+    EXPECT_TRUE(crease->textField()->isNum());
+    EXPECT_DOUBLE_EQ(crease->textField()->minValue(), 0.5);
+    EXPECT_DOUBLE_EQ(crease->stepper()->maxValue, 10.25);
+    const auto zoom = SettingsTest::buildControl("Magnification");
+    EXPECT_DOUBLE_EQ(zoom->stepper()->increment, 0.1);
+    EXPECT_EQ(zoom->textField()->unit(), 3u);
+    const auto copies = SettingsTest::buildControl("NumCopies");
+    EXPECT_DOUBLE_EQ(copies->stepper()->increment, 1);
+    EXPECT_EQ(copies->textField()->unit(), 0u);
+    EXPECT_TRUE(copies->isEnableButton());
+    EXPECT_EQ(copies->texts().buttonText, "Reset");
+    const auto hairline = SettingsTest::buildControl("HairLineWarningPoint");
+    EXPECT_DOUBLE_EQ(hairline->stepper()->increment, 0.001);
+    EXPECT_EQ(hairline->textField()->unit(), 5u);
+    EXPECT_EQ(heightOf(described("CreasePosition1"), {{"min", 0.5}, {"max", 10.0}}), 48);
+    EXPECT_EQ(buildFrom([] {
+                  PlistDictionary d = described("CreasePosition1");
+                  d.set("min", 0.5);
+                  d.set("max", 10);
+                  return d;
+              }())->textField()->unit(),
+              3u);
+}
+
+TEST(TextField, FormatCodesAndLengthsComeFromTheDescription) {
+    EXPECT_EQ(SettingsTest::buildControl("MailAddress")->textField()->unit(), 7u);
+    EXPECT_EQ(SettingsTest::buildControl("MailAddress")->textField()->digit(), 40u);
+    EXPECT_EQ(SettingsTest::buildControl("PhysicalPageRange")->textField()->unit(), 9u);
+    EXPECT_EQ(SettingsTest::buildControl("SpTonerPageRangeFront")->textField()->unit(), 11u);
+    const auto password = SettingsTest::buildControl("SecPrintPassword");
+    EXPECT_EQ(password->textField()->unit(), 8u);
+    EXPECT_TRUE(password->textField()->isSecure());
+    const auto name = SettingsTest::buildControl("PaperColorCustomName");
+    EXPECT_EQ(name->textField()->unit(), 10u);
+    EXPECT_EQ(name->textField()->keyword(), "PaperColorCustomName");
+    EXPECT_EQ(heightOf(described("PaperColorCustomName"), {}, {"max_digit"}), 48);
+    EXPECT_EQ(buildFrom([] {
+                  PlistDictionary d = described("PaperColorCustomName");
+                  d.erase("max_digit");
+                  return d;
+              }())->textField()->digit(),
+              256u);
+}
+
+TEST(Construction, TitleFollowsThePaneAndMessagesUseTheirOwnName) {
+    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed", "Layout")->texts().title, "Feed Direction");
+    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed", "Page")->texts().title, "Feed");
+    const auto density = SettingsTest::buildControl("ImageDensity");
+    EXPECT_EQ(density->mainKeyword(), "ImageDensity");
+    EXPECT_EQ(density->controlType(), VORNUI::Type::Slider);
+    EXPECT_EQ(SettingsTest::buildControl("NumCopies")->mainKeywordText(), "Copies");
+    const auto mail = SettingsTest::buildControl("MailNotifyJobEnd");
+    EXPECT_EQ(mail->texts().groupTitle, "Notification");
+    EXPECT_FALSE(mail->isGroupMain());
+}
+
+TEST(Construction, TitlesAreLocalisedThroughTheUiTable) {
+    Language german("de");
+    const auto control = buildFrom(PlistDictionary{{"mainKeyword", "Confirm"}, {"control_type", "CheckBox"},
+                                                   {"text", "Yes"}, {"text_for_message", "No"}},
+                                   Bundle::bundleWithPath(SettingsTest::productBundlePath()));
+    EXPECT_EQ(control->texts().title, "Ja");
+    EXPECT_EQ(control->mainKeywordText(), "Nein");
+    EXPECT_EQ(SettingsTest::buildControl("CreasePosition1")->texts().descText, "mm (0,5 - 10,25)");
+}
+
+TEST(Construction, IconsComeFromTheBundleAndMissingOnesStayEmpty) {
+    const auto order = SettingsTest::buildControl("PageOrder_new");
+    EXPECT_EQ(std::filesystem::path(order->icons().group).filename(), "order_group.png");
+    EXPECT_EQ(std::filesystem::path(order->radioCells()[0].iconPath).filename(), "PageOrder_new_FaceDown.png");
+    EXPECT_EQ(order->radioCells()[2].iconPath, "");
+    const auto blank = SettingsTest::buildControl("PrintBlankPages");
+    EXPECT_EQ(std::filesystem::path(blank->icons().stateTrue).filename(), "PrintBlankPages_True.png");
+    EXPECT_EQ(std::filesystem::path(blank->icons().group).filename(), "group_icon.png");
+    const auto density = SettingsTest::buildControl("ImageDensity");
+    EXPECT_EQ(std::filesystem::path(density->icons().sliderMin).filename(), "density_min.png");
+    EXPECT_EQ(density->icons().sliderMax, "");
+    EXPECT_EQ(density->texts().minIconText, "Light");
+    EXPECT_EQ(SettingsTest::buildControl("StapleMode")->icons().group, "");
+}
+
+TEST(Construction, ChildrenFollowTheLanguageAndStackInRows) {
+    {
+        Language english("en");
+        const auto toner = SettingsTest::buildControl("UseSpToner");
+        ASSERT_EQ(toner->childControls().size(), 2u);
+        EXPECT_EQ(toner->childControls()[0]->mainKeyword(), "SpTonerUseMode");
+    }
+    Language german("de-DE");
+    const auto toner = SettingsTest::buildControl("UseSpToner");
+    ASSERT_EQ(toner->childControls().size(), 3u);
+    const auto& children = toner->childControls();
+    EXPECT_EQ(children[0]->frame(), (ViewFrame{16, 72, 224, 48}));
+    EXPECT_EQ(children[1]->frame(), (ViewFrame{240, 72, 240, 24}));
+    EXPECT_EQ(children[2]->frame(), (ViewFrame{0, 120, 480, 48}));
+    EXPECT_EQ(children[0]->superview(), toner.get());
+    EXPECT_DOUBLE_EQ(toner->maxHeight(), 168);
+}
+
+TEST(Construction, MissingDescriptionGivesAnEmptyControl) {
+    auto control = std::make_shared<VORNUI>();
+    control->setControlDictionary(nullptr, SettingsTest::fixtureBundle());
+    control->updateControl();
+    EXPECT_EQ(control->controlType(), VORNUI::Type::Unknown);
+    EXPECT_EQ(control->getControlHeight(), 0);
+    EXPECT_FALSE(control->getStringValue());
+    EXPECT_TRUE(control->childControls().empty());
+    EXPECT_EQ(control->getConflictDictionary(), nullptr);
+    const auto stray = buildFrom(PlistDictionary{{"mainKeyword", "Stray"}, {"control_type", "CheckBox"},
+                                                 {"other_controls", PlistArray{"NoSuchChild", "MailAddress"}}});
+    ASSERT_EQ(stray->childControls().size(), 1u);
+    EXPECT_EQ(stray->childControls()[0]->mainKeyword(), "MailAddress");
+}
+
+TEST(Construction, DescriptionFileComesFromTheHostBundle) {
+    OstrinTest::TemporaryDirectory folder;
+    const std::string host = makeBundle(folder.file("Host.bundle"), PlistDictionary{{"QVPOD", "Panel"}});
+    OstrinTest::writeFile(host + "/Contents/Resources/Panel.plist", "<plist><dict/></plist>");
+    const std::string pane = makeBundle(host + "/Contents/PlugIns/Finishing.bundle", PlistDictionary{});
+    OstrinTest::writeFile(pane + "/Contents/Resources/UI.plist", "<plist><dict/></plist>");
+    const std::string lonely = makeBundle(folder.file("Lonely.bundle"), PlistDictionary{{"QVPOD", "Missing"}});
+
+    VORNUI control;
+    control.setControlDictionary(nullptr, Bundle::bundleWithPath(pane));
+    EXPECT_EQ(control.getUIFilePath(), host + "/Contents/Resources/Panel.plist");
+    control.setControlDictionary(nullptr, Bundle::bundleWithPath(host));
+    EXPECT_EQ(control.getUIFilePath(), host + "/Contents/Resources/Panel.plist");
+    std::filesystem::remove(host + "/Contents/Resources/Panel.plist");
+    control.setControlDictionary(nullptr, Bundle::bundleWithPath(pane));
+    EXPECT_EQ(control.getUIFilePath(), pane + "/Contents/Resources/UI.plist");
+    control.setControlDictionary(nullptr, Bundle::bundleWithPath(lonely));
+    EXPECT_FALSE(control.getUIFilePath());
+    control.setControlDictionary(nullptr, nullptr);
+    EXPECT_FALSE(control.getUIFilePath());
+}
