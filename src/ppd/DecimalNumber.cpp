@@ -219,7 +219,7 @@ std::string DecimalNumber::fractionDigits(int count) const {
 std::string DecimalNumber::stringValue() const {
     std::string text = _negative ? "-" : "";
     text += integerDigits();
-    if (_exponent < 0) text += "." + fractionDigits(-_exponent);
+    if (_exponent < 0) text.append(".").append(fractionDigits(-_exponent));
     return text;
 }
 
@@ -227,7 +227,7 @@ std::string DecimalNumber::fixed(int decimals, Rounding rounding) const {
     const DecimalNumber number = rounded(decimals, rounding);
     std::string text = number._negative ? "-" : "";
     text += number.integerDigits();
-    if (decimals > 0) text += "." + number.fractionDigits(decimals);
+    if (decimals > 0) text.append(".").append(number.fractionDigits(decimals));
     return text;
 }
 

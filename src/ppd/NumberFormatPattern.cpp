@@ -58,10 +58,10 @@ std::string NumberFormatPattern::format(const DecimalNumber& number) const {
         integer.insert(0, static_cast<std::size_t>(_minimumIntegerDigits) - integer.size(), '0');
     std::string fraction = rounded.fractionDigits(_maximumFractionDigits);
     while (static_cast<int>(fraction.size()) > _minimumFractionDigits && fraction.back() == '0') fraction.pop_back();
-    if (integer.empty() && fraction.empty()) integer = "0";
+    if (integer.empty() && fraction.empty()) integer.push_back('0');
     std::string text = rounded.isNegative() ? "-" : "";
     text += _prefix + withGrouping(integer);
-    if (!fraction.empty()) text += "." + fraction;
+    if (!fraction.empty()) text.append(".").append(fraction);
     return text + _suffix;
 }
 
