@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 #include "PrintOptionTestSupport.h"
 #include "TestSupport.h"
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
 #include "core/PlistIO.h"
+#include "ppd/PpdFile.h"
 #include "ppd/PrintOptionConverter.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -255,5 +257,32 @@ TEST_F(ProductBundle, ShippedTableUsesThePaperTypeNumbers) {
         EXPECT_EQ(converter.inputMgrTagValue("ChgPrintPaperSizeType", name),
                   PlistValue(std::stoi(record->stringFor("typeNum", ""))))
             << name;
+    }
+}
+
+// Every PPD keyword of the shipped table is an option or choice of the sample PPD, apart
+// from the options the panel describes itself because the PPD does not declare them.
+TEST_F(ProductBundle, ShippedTableNamesOnlyOptionsAndChoicesOfTheSamplePpd) {
+    auto ppd = PpdFile::initWithContentsOfFile(std::string(OSTRIN_BUILD_BUNDLE_DIR) + "/Contents/Resources/OstrinFlow.ppd");
+    ASSERT_TRUE(ppd);
+    const auto table = converter.convertTable();
+    ASSERT_TRUE(table);
+    EXPECT_GE(table->size(), 60u);
+    const std::set<std::string> panelOwnOptions{"QZSRGBAuto", "QZSRGBAutoType", "QZSaveFile_DPI"};
+    for (const auto& [mainKeyword, entry] : *table) {
+        ASSERT_TRUE(entry.dictionary()) << mainKeyword;
+        EXPECT_TRUE(entry.dictionary()->stringFor("tagKey")) << mainKeyword;
+        if (panelOwnOptions.contains(mainKeyword)) continue;
+        EXPECT_TRUE(ppd->isExists(mainKeyword)) << mainKeyword;
+        if (entry.dictionary()->stringFor("tagValueType", "") == "Boolean") {
+            EXPECT_EQ(ppd->uiType(mainKeyword), 0) << mainKeyword;
+        }
+        const PlistValue* items = entry.dictionary()->find("items");
+        if (!items) continue;
+        for (const PlistValue& item : *items->array()) {
+            const std::string optionKeyword = item.dictionary()->stringFor("optionKeyword", "");
+            if (optionKeyword.ends_with("%d")) continue;
+            EXPECT_TRUE(ppd->isExists(mainKeyword, optionKeyword)) << mainKeyword << " " << optionKeyword;
+        }
     }
 }
