@@ -96,6 +96,10 @@ TEST(PrintOptionConverterTable, NumberedPatternTakesTheDigitsToTheEndOfTheKeywor
 }
 
 TEST(PrintOptionConverterTable, FirstEntryInTableOrderWinsForASharedTagKey) {
+    {
+        TableBundle bundle({{"InputSlot", kTrayEntry}, {"QVInputSlot", kTrayEntry}});
+        EXPECT_EQ(ppdFormat({{"PP_TRAY", "2"}}), (PlistDictionary{{"InputSlot", "Tray2"}}));
+    }
     TableBundle bundle({{"QVInputSlot", kTrayEntry}, {"InputSlot", kTrayEntry}});
     EXPECT_EQ(ppdFormat({{"PP_TRAY", "2"}}), (PlistDictionary{{"QVInputSlot", "Tray2"}}));
     // Both PPD keywords convert; the later one in the input sets the tag last.
