@@ -4,6 +4,8 @@
 #include "Commands.h"
 #include "JsonIO.h"
 #include "core/Bundle.h"
+#include "core/Diagnostics.h"
+#include "core/EncodingLibrary.h"
 #include "core/LocalizedString.h"
 #include "core/PreferredLanguages.h"
 #include "ppd/PrintOptionConverter.h"
@@ -35,10 +37,34 @@ void useBundle(const std::string& bundlePath) {
         throw CommandError(ExitInput, "the extension bundle " + bundlePath + " has no keyword conversion table");
 }
 
+bool holdsPassword(const PlistDictionary& printOption) {
+    for (const char* key : {"SecPrintPassword", "RscPassword", "AuthJobPassword"})
+        if (!printOption.stringFor(key, "").empty()) return true;
+    return false;
+}
+
+// Passwords pass through the maker's encoding library in the bundle's resources; without
+// it they are written empty, which a script must hear about.
+void loadEncodingLibrary(const std::string& bundlePath, const PlistDictionary& printOption) {
+    auto bundle = Bundle::bundleWithPath(bundlePath);
+    const int error = bundle ? loadEncDec(bundle->resourcePath()) : -1;
+    if (error == 0) return;
+    Diagnostics::logf("###loadEncDec: error %d", error);
+    if (holdsPassword(printOption))
+        Diagnostics::error("ostrin-flow: warning: no encoding library in " + bundlePath +
+                           "; passwords are written empty");
+}
+
 PlistDictionary converted(Direction direction, PlistDictionary printOption, const std::string& bundlePath) {
     switch (direction) {
-    case Direction::Canonical: PrintOptionConverter::convertToCanonicalPpdKeyword(printOption, 1); break;
-    case Direction::Internal: PrintOptionConverter::convertToInternalPpdKeyword(printOption); break;
+    case Direction::Canonical:
+        loadEncodingLibrary(bundlePath, printOption);
+        PrintOptionConverter::convertToCanonicalPpdKeyword(printOption, 1);
+        break;
+    case Direction::Internal:
+        loadEncodingLibrary(bundlePath, printOption);
+        PrintOptionConverter::convertToInternalPpdKeyword(printOption);
+        break;
     case Direction::PpdFormat:
         useBundle(bundlePath);
         return PrintOptionConverter::sharedInstance().toPpdKeywordFormat(printOption);

@@ -25,6 +25,7 @@ void PrintOptionConverter::convertToCanonicalPpdKeyword(PlistDictionary& printOp
     markStackerTypes(printOption);
     splitPunch(printOption);
     splitOutputOrder(printOption);
+    if (convertCustom) encodePasswords(printOption);
     splitPaperTypes(printOption);
     fillAuthJobUserId(printOption);
     splitSpecialTonerColors(printOption);
@@ -44,6 +45,7 @@ void PrintOptionConverter::convertToInternalPpdKeyword(PlistDictionary& printOpt
     readTwoColorPressNamesFromPpd(printOption);
     joinPunch(printOption);
     joinOutputOrder(printOption);
+    decodePasswords(printOption);
     joinPaperTypes(printOption);
     paperSizeLengthsToMillimetres(printOption);
     joinSpecialTonerColors(printOption);

@@ -135,6 +135,33 @@ TEST_F(ConvertCommand, MissingOrUnknownDirectionIsAUsageError) {
     EXPECT_EQ(extra.exitCode, 2);
 }
 
+TEST_F(ConvertCommand, PasswordsGoThroughTheBundlesEncodingLibrary) {
+    const std::string bundle = folder.file("Press.bundle");
+    std::filesystem::create_directories(bundle + "/Contents/Resources");
+    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    std::filesystem::copy_file(std::string(OSTRIN_STAND_IN_ENCRYPTION_FOLDER) + "/libencryption.so",
+                               bundle + "/Contents/Resources/libencryption.so");
+    auto press = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"SecPrintPassword": "1234"})");
+    ASSERT_EQ(press.exitCode, 0) << press.err;
+    EXPECT_EQ(Json::parse(press.out)["SecPrintPassword"], "31323334");
+    EXPECT_EQ(press.err, "");
+    auto panes = runCommand({"--resources", bundle, "convert", "--to", "internal"}, R"({"RscPassword": "31323334"})");
+    ASSERT_EQ(panes.exitCode, 0) << panes.err;
+    EXPECT_EQ(Json::parse(panes.out)["RscPassword"], "1234");
+}
+
+TEST_F(ConvertCommand, PasswordsWithoutEncodingLibraryAreWrittenEmptyWithAWarning) {
+    const std::string bundle = folder.file("Bare.bundle");
+    std::filesystem::create_directories(bundle + "/Contents/Resources");
+    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    auto result = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": "pw"})");
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(Json::parse(result.out)["AuthJobPassword"], "");
+    EXPECT_EQ(result.err, "ostrin-flow: warning: no encoding library in " + bundle + "; passwords are written empty\n");
+    auto noPassword = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": ""})");
+    EXPECT_EQ(noPassword.err, "");
+}
+
 TEST(PaperSizeCommand, PrintsTheSizeRecord) {
     auto result = runCommand({"paper-size", "A4LEF"});
     ASSERT_EQ(result.exitCode, 0) << result.err;
