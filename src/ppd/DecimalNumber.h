@@ -23,18 +23,22 @@ public:
     /// The number written at the start of text (leading blanks, sign, digits, point,
     /// exponent, as in "-12.5e3"); nothing when text does not start with a number.
     static std::optional<DecimalNumber> fromString(std::string_view text);
+    /// The integer value.
     static DecimalNumber fromInteger(std::int64_t value);
     /// The exact value of "%f"-printed text of value, rounded to scale decimals; nothing
     /// for an infinite or undefined value.
     static std::optional<DecimalNumber> fromPrintedDouble(double value, int scale, Rounding rounding);
 
+    /// The product.
     DecimalNumber multipliedBy(const DecimalNumber& other) const;
     /// The quotient; nothing when other is zero.
     std::optional<DecimalNumber> dividedBy(const DecimalNumber& other) const;
     /// The value with at most scale decimals (a negative scale rounds to tens, hundreds...).
     DecimalNumber rounded(int scale, Rounding rounding) const;
 
+    /// Whether the value is zero (there is no negative zero).
     bool isZero() const { return _digits.empty(); }
+    /// Whether the value is below zero.
     bool isNegative() const { return _negative; }
     /// Plain notation without trailing fraction zeros: "500", "0.05", "-12.5".
     std::string stringValue() const;
@@ -47,6 +51,7 @@ public:
     /// The integer part, clamped to the 64-bit range.
     std::int64_t integerValue() const;
 
+    /// Equal values are equal whatever their writing ("1.50" and "1.5").
     bool operator==(const DecimalNumber& other) const = default;
 
 private:

@@ -14,6 +14,7 @@ namespace ComQuorvantVelmar_Plugin {
 /// "." and "," whatever the user's locale, because the result is a PPD keyword.
 class NumberFormatPattern {
 public:
+    /// The pattern read from its text; unknown characters count as literal text.
     explicit NumberFormatPattern(std::string_view pattern);
 
     /// number written by the pattern.
