@@ -20,6 +20,34 @@ const std::vector<Command>& commandTable() {
          "Exit status 3 for a missing or malformed PPD or an unknown queue, 4 when cupsd\n"
          "cannot be reached.\n",
          ppdCommand},
+        {"convert", "converts a print option dictionary between its forms",
+         "Usage: ostrin-flow convert --to canonical|internal|ppd-format|input-manager [FILE|-]\n\n"
+         "Reads one JSON object (from FILE, or standard input when FILE is - or absent),\n"
+         "converts it as the panel does and prints the result as a JSON object.\n\n"
+         "  --to canonical       the panes' keys (lengths in mm) -> PPD main keywords and\n"
+         "                       option keywords (lengths in cep), with custom sizes, print\n"
+         "                       positions and passwords\n"
+         "  --to internal        PPD main keywords -> the panes' keys\n"
+         "  --to ppd-format      input-manager tags -> PPD keywords, through the conversion\n"
+         "                       table of the extension bundle (--resources)\n"
+         "  --to input-manager   PPD keywords -> input-manager tags, through the same table\n\n"
+         "Passwords (SecPrintPassword, RscPassword, AuthJobPassword) are encoded and decoded\n"
+         "with the printer maker's encoding library, libencryption.so in the bundle's\n"
+         "Contents/Resources; without it they are written empty, with a warning on stderr.\n"
+         "Spot colour names of the two-colour press simulation are rewritten for users whose\n"
+         "first language writes a decimal comma (--lang). Values are kept as they are given:\n"
+         "strings, booleans or numbers.\n\n"
+         "Exit status 2 for a missing or unknown --to, 3 for an unreadable file, malformed\n"
+         "JSON, input that is not a JSON object, or a bundle without a conversion table.\n",
+         convertCommand},
+        {"paper-size", "the size record of a paper size name",
+         "Usage: ostrin-flow paper-size NAME\n\n"
+         "Prints the press's size record of the paper size option keyword NAME (exact,\n"
+         "case-sensitive), for example A4LEF:\n"
+         "  {\"typeNum\": \"2\", \"height\": \"119056\", \"width\": \"168378\"}\n"
+         "typeNum is the press's type number; height and width are in cep (1/14400 inch).\n\n"
+         "Exit status 3 for a name without a record (Custom and NoChange among them).\n",
+         paperSizeCommand},
     };
     return table;
 }

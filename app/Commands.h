@@ -9,5 +9,9 @@ namespace OstrinFlowCommand {
 
 /// Lists the PPD's options with their choices, defaults and marked choices.
 int ppdCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Converts a JSON print option dictionary between its forms and prints it.
+int convertCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Prints the size record of a paper size name.
+int paperSizeCommand(const GlobalOptions& options, ArgumentList& arguments);
 
 }  // namespace OstrinFlowCommand

@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+
+#include "CommandRunner.h"
+#include "TestSupport.h"
+#include "core/PlistIO.h"
+#include "core/PreferredLanguages.h"
+#include "ppd/PrintOptionConverter.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+using OstrinTest::runCommand;
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+Json toJson(const PlistValue& value) {
+    if (const auto* text = value.string()) return *text;
+    if (const auto* flag = value.boolean()) return *flag;
+    if (const auto* number = value.integer()) return *number;
+    Json object = Json::object();
+    if (const auto* dictionary = value.dictionary())
+        for (const auto& [key, item] : *dictionary) object[key] = toJson(item);
+    return object;
+}
+
+PlistDictionary realisticInternalOptions() {
+    return *PlistIO::readFile(OstrinTest::dataPath("ppd/InternalPrintOption.plist"))->dictionary();
+}
+
+// The library's answer in this process, with the language the command is given.
+class ConvertCommand : public ::testing::Test {
+protected:
+    void SetUp() override { PreferredLanguages::setFirst("fr"); }
+    void TearDown() override { PreferredLanguages::setFirst(""); }
+
+    OstrinTest::TemporaryDirectory folder;
+};
+
+}  // namespace
+
+TEST_F(ConvertCommand, ToCanonicalPrintsWhatTheLibraryAnswers) {
+    PlistDictionary expected = realisticInternalOptions();
+    PrintOptionConverter::convertToCanonicalPpdKeyword(expected, 1);
+    const std::string path = folder.file("internal.json");
+    OstrinTest::writeFile(path, toJson(realisticInternalOptions()).dump());
+    auto result = runCommand({"--lang", "fr", "convert", "--to", "canonical", path});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(Json::parse(result.out), toJson(expected));
+    EXPECT_EQ(Json::parse(result.out)["TwoColorPressSimulationSpotSpotName"], "Gold 1.5,Silver 2.5");
+}
+
+TEST_F(ConvertCommand, ToInternalPrintsWhatTheLibraryAnswers) {
+    PlistDictionary press = realisticInternalOptions();
+    PrintOptionConverter::convertToCanonicalPpdKeyword(press, 1);
+    PlistDictionary expected = press;
+    PrintOptionConverter::convertToInternalPpdKeyword(expected);
+    const std::string path = folder.file("canonical.json");
+    OstrinTest::writeFile(path, toJson(press).dump());
+    auto result = runCommand({"--lang", "fr", "convert", "--to", "internal", path});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(Json::parse(result.out), toJson(expected));
+}
+
+TEST_F(ConvertCommand, ReadsStandardInputAndKeepsValueKinds) {
+    auto result = runCommand({"convert", "--to", "canonical", "-"},
+                             R"({"Magnification": "75.5", "NumCopies": 3, "Collate": true})");
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    const Json output = Json::parse(result.out);
+    EXPECT_EQ(output["Magnification"], "755");
+    EXPECT_EQ(output["NumCopies"], 3);
+    EXPECT_EQ(output["Collate"], true);
+    EXPECT_EQ(output.begin().key(), "Magnification");
+
+    auto implicit = runCommand({"convert", "--to", "internal"}, R"({"Punch": "Top", "PunchHoles": "Holes4"})");
+    ASSERT_EQ(implicit.exitCode, 0) << implicit.err;
+    EXPECT_EQ(Json::parse(implicit.out)["Punch_PunchHoles"], "TopHoles4");
+}
+
+TEST_F(ConvertCommand, TableDirectionsUseTheBundlesConversionTable) {
+    auto toPpd = runCommand({"convert", "--to", "ppd-format"}, R"({"PP_TRAY": "5", "SP_SAVEFT": 1, "X": 1})");
+    ASSERT_EQ(toPpd.exitCode, 0) << toPpd.err;
+    EXPECT_EQ(Json::parse(toPpd.out), Json::parse(R"({"QVInputSlot": "TrayMSI", "QZSaveFile": "TIFF600dpi"})"));
+    auto toInputManager = runCommand({"convert", "--to", "input-manager"}, R"({"QVInputSlot": "Tray3", "SecPrint": "True"})");
+    ASSERT_EQ(toInputManager.exitCode, 0) << toInputManager.err;
+    EXPECT_EQ(Json::parse(toInputManager.out), Json::parse(R"({"PP_TRAY": 3, "SC_SECURE": true})"));
+}
+
+TEST_F(ConvertCommand, MalformedJsonIsAnInputError) {
+    for (const char* direction : {"canonical", "internal", "ppd-format", "input-manager"}) {
+        auto result = runCommand({"convert", "--to", direction}, R"({"Punch_PunchHoles": )");
+        EXPECT_EQ(result.exitCode, 3) << direction;
+        EXPECT_EQ(result.err, "ostrin-flow: standard input is not valid JSON\n");
+        EXPECT_TRUE(result.out.empty());
+    }
+    const std::string path = folder.file("broken.json");
+    OstrinTest::writeFile(path, "{\"a\": [1,}");
+    auto file = runCommand({"convert", "--to", "canonical", path});
+    EXPECT_EQ(file.exitCode, 3);
+    EXPECT_EQ(file.err, "ostrin-flow: " + path + " is not valid JSON\n");
+}
+
+TEST_F(ConvertCommand, InputThatIsNoObjectOrNoFileIsAnInputError) {
+    auto array = runCommand({"convert", "--to", "internal"}, "[1, 2]");
+    EXPECT_EQ(array.exitCode, 3);
+    EXPECT_EQ(array.err, "ostrin-flow: standard input does not hold a JSON object\n");
+    auto missing = runCommand({"convert", "--to", "internal", folder.file("absent.json")});
+    EXPECT_EQ(missing.exitCode, 3);
+    EXPECT_NE(missing.err.find(folder.file("absent.json")), std::string::npos);
+}
+
+TEST_F(ConvertCommand, BundleWithoutConversionTableIsAnInputError) {
+    auto noBundle = runCommand({"--resources", folder.path(), "convert", "--to", "ppd-format"}, "{}");
+    EXPECT_EQ(noBundle.exitCode, 3);
+    EXPECT_EQ(noBundle.err, "ostrin-flow: no extension bundle at " + folder.path() + "\n");
+
+    const std::string bundle = folder.file("Empty.bundle");
+    std::filesystem::create_directories(bundle + "/Contents/Resources");
+    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    auto noTable = runCommand({"--resources", bundle, "convert", "--to", "input-manager"}, "{}");
+    EXPECT_EQ(noTable.exitCode, 3);
+    EXPECT_EQ(noTable.err, "ostrin-flow: the extension bundle " + bundle + " has no keyword conversion table\n");
+}
+
+TEST_F(ConvertCommand, MissingOrUnknownDirectionIsAUsageError) {
+    auto missing = runCommand({"convert"}, "{}");
+    EXPECT_EQ(missing.exitCode, 2);
+    EXPECT_NE(missing.err.find("convert needs --to"), std::string::npos);
+    auto unknown = runCommand({"convert", "--to", "press"}, "{}");
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_NE(unknown.err.find("not \"press\""), std::string::npos);
+    auto extra = runCommand({"convert", "--to", "internal", "a.json", "b.json"});
+    EXPECT_EQ(extra.exitCode, 2);
+}
+
+TEST_F(ConvertCommand, PasswordsGoThroughTheBundlesEncodingLibrary) {
+    const std::string bundle = folder.file("Press.bundle");
+    std::filesystem::create_directories(bundle + "/Contents/Resources");
+    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    std::filesystem::copy_file(std::string(OSTRIN_STAND_IN_ENCRYPTION_FOLDER) + "/libencryption.so",
+                               bundle + "/Contents/Resources/libencryption.so");
+    auto press = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"SecPrintPassword": "1234"})");
+    ASSERT_EQ(press.exitCode, 0) << press.err;
+    EXPECT_EQ(Json::parse(press.out)["SecPrintPassword"], "31323334");
+    EXPECT_EQ(press.err, "");
+    auto panes = runCommand({"--resources", bundle, "convert", "--to", "internal"}, R"({"RscPassword": "31323334"})");
+    ASSERT_EQ(panes.exitCode, 0) << panes.err;
+    EXPECT_EQ(Json::parse(panes.out)["RscPassword"], "1234");
+}
+
+TEST_F(ConvertCommand, PasswordsWithoutEncodingLibraryAreWrittenEmptyWithAWarning) {
+    const std::string bundle = folder.file("Bare.bundle");
+    std::filesystem::create_directories(bundle + "/Contents/Resources");
+    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    auto result = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": "pw"})");
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(Json::parse(result.out)["AuthJobPassword"], "");
+    EXPECT_EQ(result.err, "ostrin-flow: warning: no encoding library in " + bundle + "; passwords are written empty\n");
+    auto noPassword = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": ""})");
+    EXPECT_EQ(noPassword.err, "");
+}
+
+TEST(PaperSizeCommand, PrintsTheSizeRecord) {
+    auto result = runCommand({"paper-size", "A4LEF"});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out, "{\n  \"typeNum\": \"2\",\n  \"height\": \"119056\",\n  \"width\": \"168378\"\n}\n");
+}
+
+TEST(PaperSizeCommand, UnknownNameIsAnInputError) {
+    for (const char* name : {"a4lef", "Custom", "NoChange"}) {
+        auto result = runCommand({"paper-size", name});
+        EXPECT_EQ(result.exitCode, 3) << name;
+        EXPECT_EQ(result.err, "ostrin-flow: unknown paper size \"" + std::string(name) + "\"\n");
+        EXPECT_TRUE(result.out.empty());
+    }
+    EXPECT_EQ(runCommand({"paper-size"}).exitCode, 2);
+}

@@ -1,0 +1,353 @@
+#include <gtest/gtest.h>
+
+#include "PrintOptionTestSupport.h"
+#include "ppd/PrintOptionConverter.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+using namespace ConverterTest;
+using Converter = PrintOptionConverter;
+
+namespace {
+
+constexpr const char* kMode = "ImpositionMode_ImpositionCustomMode";
+
+PlistDictionary toCanonical(PlistDictionary printOption) {
+    Converter::convertToCanonicalImpositionKeyword(printOption);
+    return printOption;
+}
+
+PlistDictionary toInternal(PlistDictionary printOption) {
+    Converter::convertToInternalImpositionKeyword(printOption);
+    return printOption;
+}
+
+PlistDictionary nup(const char* pages, const char* orientation, const char* paper) {
+    return {{kMode, "Nup"}, {"ImpositionNup_NumOfPages", pages}, {"DocumentOrientation", orientation},
+            {"ChgPrintPaperSizeType", paper}};
+}
+
+PlistDictionary pressLayout(const char* repeatX, const char* repeatY, const char* sheetDirection) {
+    return {{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Nup"}, {"LayoutRepeatX", repeatX},
+            {"LayoutRepeatY", repeatY}, {"SheetDirection", sheetDirection}};
+}
+
+}  // namespace
+
+TEST(PrintOptionConverterImposition, NupBecomesTheFullPressLayout) {
+    PlistDictionary printOption = nup("4up", "Portrait", "A3");
+    printOption.set("ImpositionNup_Fitting", "True");
+    printOption.set("ImpositionBooklet_Fitting", "False");
+    printOption.set("ImpositionBooklet_LayoutBaseFile", "Left");
+    printOption.set("ImpositionBooklet_CreepTotalOffset", "2.00");
+    EXPECT_EQ(entriesOf(toCanonical(printOption)),
+              entriesOf({{"ImpositionMode", "Job"},
+                         {"ImpositionCustomMode", "Nup"},
+                         {"Fitting", "True"},
+                         {"DocumentOrientation", "Portrait"},
+                         {"ChgPrintPaperSizeType", "A3"},
+                         {"LayoutRepeatX", "2"},
+                         {"LayoutRepeatY", "2"},
+                         {"SheetDirection", "Portrait"},
+                         {"FinishSheetDirection", "Portrait"},
+                         {"FinishFixedForm", "Custom"},
+                         {"FinishedSizeName", ""},
+                         {"FinishedSizeHeight", "119055"},
+                         {"FinishedSizeWidth", "84189"},
+                         {"LayoutBaseFile", "NUp-1side.json"},
+                         {"ImpositionAutoDuplex", "False"},
+                         {"FixedForm", "A3"},
+                         {"SheetSizeName", ""},
+                         {"SheetSizeHeight", ""},
+                         {"SheetSizeWidth", ""},
+                         {"FascicleMode", "None"},
+                         {"NumberOfFascicle", "16"},
+                         {"RotationAngle", "Rotate0"}}));
+}
+
+TEST(PrintOptionConverterImposition, NupLayoutAndFinishedSizeFollowPagesAndDirection) {
+    struct Row {
+        const char* pages;
+        const char* portrait;
+        const char* landscape;
+        const char* height;
+        const char* width;
+    };
+    // A4SEF: 168378 x 119056 cep.
+    const Row rows[] = {
+        {"2up", "2_1_Landscape", "1_2_Portrait", "119056", "84189"},
+        {"4up", "2_2_Portrait", "2_2_Landscape", "84189", "59528"},
+        {"8up", "4_2_Landscape", "2_4_Portrait", "59528", "42094"},
+        {"16up", "4_4_Portrait", "4_4_Landscape", "42094", "29764"},
+        {"32up", "8_4_Landscape", "4_8_Portrait", "29764", "21047"},
+    };
+    for (const Row& row : rows) {
+        for (const char* orientation : {"Portrait", "Landscape"}) {
+            auto printOption = toCanonical(nup(row.pages, orientation, "A4SEF"));
+            const std::string layout = printOption.stringFor("LayoutRepeatX", "") + "_" +
+                                       printOption.stringFor("LayoutRepeatY", "") + "_" +
+                                       printOption.stringFor("SheetDirection", "");
+            EXPECT_EQ(layout, std::string(orientation) == "Portrait" ? row.portrait : row.landscape) << row.pages;
+            EXPECT_EQ(printOption.stringFor("FinishSheetDirection", ""), orientation);
+            EXPECT_EQ(printOption.stringFor("FinishedSizeHeight", ""), row.height) << row.pages;
+            EXPECT_EQ(printOption.stringFor("FinishedSizeWidth", ""), row.width) << row.pages;
+        }
+    }
+}
+
+TEST(PrintOptionConverterImposition, NupDirectionComesFromThePaperWhenTheDocumentHasNone) {
+    EXPECT_EQ(toCanonical(nup("2up", "Auto", "A4LEF")).stringFor("SheetDirection", ""), "Portrait");
+    EXPECT_EQ(toCanonical(nup("2up", "Auto", "A4LEF")).stringFor("FinishSheetDirection", ""), "Landscape");
+    EXPECT_EQ(toCanonical(nup("2up", "Auto", "A4SEF")).stringFor("FinishSheetDirection", ""), "Portrait");
+    PlistDictionary noOrientation{{kMode, "Nup"}, {"ImpositionNup_NumOfPages", "2up"},
+                                  {"ChgPrintPaperSizeType", "B5Booklet"}};
+    EXPECT_EQ(toCanonical(noOrientation).stringFor("FinishSheetDirection", ""), "Landscape");
+}
+
+TEST(PrintOptionConverterImposition, NupOnACustomSheetUsesItsOwnSize) {
+    PlistDictionary printOption = nup("2up", "Portrait", "Custom");
+    printOption.set("ChgPrintPaperSizeLength", "100000");
+    printOption.set("ChgPrintPaperSizeWidth", "60001");
+    auto canonical = toCanonical(printOption);
+    EXPECT_EQ(canonical.stringFor("FinishedSizeHeight", ""), "60001");
+    EXPECT_EQ(canonical.stringFor("FinishedSizeWidth", ""), "50000");
+    EXPECT_EQ(canonical.stringFor("FixedForm", ""), "Custom");
+    EXPECT_EQ(canonical.stringFor("SheetSizeHeight", ""), "100000");
+    EXPECT_EQ(canonical.stringFor("SheetSizeWidth", ""), "60001");
+}
+
+TEST(PrintOptionConverterImposition, NupWithAnUnknownPageCountLeavesTheLayoutUnset) {
+    auto printOption = toCanonical(nup("64up", "Portrait", "A3"));
+    for (const char* key : {"LayoutRepeatX", "LayoutRepeatY", "SheetDirection", "FinishedSizeHeight",
+                            "FinishedSizeWidth", "ImpositionNup_NumOfPages"})
+        EXPECT_FALSE(printOption.contains(key)) << key;
+    EXPECT_EQ(printOption.stringFor("LayoutBaseFile", ""), "NUp-1side.json");
+    EXPECT_EQ(printOption.stringFor("FinishFixedForm", ""), "Custom");
+}
+
+TEST(PrintOptionConverterImposition, NupOnAnUnknownSheetHasNoSize) {
+    auto printOption = toCanonical(nup("2up", "Portrait", "NoChange"));
+    EXPECT_EQ(printOption.stringFor("FinishedSizeHeight", ""), "0");
+    EXPECT_EQ(printOption.stringFor("FinishedSizeWidth", ""), "0");
+    EXPECT_FALSE(printOption.contains("FixedForm"));
+}
+
+TEST(PrintOptionConverterImposition, BookletBecomesSaddleStitchLayout) {
+    PlistDictionary printOption{{kMode, "Booklet"},
+                                {"ImpositionBooklet_LayoutBaseFile", "Right"},
+                                {"ImpositionBooklet_CreepTotalOffset", "1.5"},
+                                {"ImpositionBooklet_Fitting", "True"},
+                                {"ImpositionNup_NumOfPages", "4up"},
+                                {"DocumentOrientation", "Landscape"},
+                                {"ChgPrintPaperSizeType", "A3"}};
+    EXPECT_EQ(entriesOf(toCanonical(printOption)),
+              entriesOf({{"ImpositionMode", "Job"},
+                         {"ImpositionCustomMode", "Booklet"},
+                         {"Fitting", "True"},
+                         {"DocumentOrientation", "Landscape"},
+                         {"ChgPrintPaperSizeType", "A3"},
+                         {"LayoutBaseFile", "SaddleStiching2x1(RightBinding).json"},
+                         {"CreepSetting", "False"},
+                         {"CreepTotalOffset", "0"},
+                         {"CreepInitialOffsetX", "0"},
+                         {"BackMargin", "850"},
+                         {"FinishSheetDirection", "Portrait"},
+                         {"FinishFixedForm", "Custom"},
+                         {"FinishedSizeName", ""},
+                         {"FinishedSizeHeight", "168378"},
+                         {"FinishedSizeWidth", "119055"},
+                         {"SheetDirection", "Landscape"},
+                         {"RotationAngle", "Rotate90"},
+                         {"FixedForm", "A3"},
+                         {"SheetSizeName", ""},
+                         {"SheetSizeHeight", ""},
+                         {"SheetSizeWidth", ""},
+                         {"ImpositionAutoDuplex", "True"},
+                         {"NupLayout", "Z"},
+                         {"LayoutRepeatX", "1"},
+                         {"LayoutRepeatY", "1"}}));
+}
+
+TEST(PrintOptionConverterImposition, BookletOnALongEdgeFeedSheetHalvesTheWidth) {
+    PlistDictionary printOption{{kMode, "Booklet"}, {"ImpositionBooklet_CreepTotalOffset", ""},
+                                {"DocumentOrientation", "Portrait"}, {"ChgPrintPaperSizeType", "A4LEF"}};
+    auto canonical = toCanonical(printOption);
+    EXPECT_EQ(canonical.stringFor("FinishedSizeHeight", ""), "119056");
+    EXPECT_EQ(canonical.stringFor("FinishedSizeWidth", ""), "84189");
+    EXPECT_EQ(canonical.stringFor("LayoutBaseFile", ""), "SaddleStiching2x1(LeftBinding).json");
+    EXPECT_EQ(canonical.stringFor("RotationAngle", ""), "Rotate0");
+    EXPECT_FALSE(canonical.contains("BackMargin"));
+    EXPECT_FALSE(canonical.contains("CreepSetting"));
+    EXPECT_FALSE(canonical.contains("ImpositionBooklet_CreepTotalOffset"));
+
+    printOption.set("DocumentOrientation", "Auto");
+    EXPECT_FALSE(toCanonical(printOption).contains("RotationAngle"));
+}
+
+TEST(PrintOptionConverterImposition, SinglePageModesGetTheNormalLayout) {
+    const PlistDictionary normalLayout{{"LayoutRepeatX", "1"}, {"LayoutRepeatY", "1"},
+                                       {"LayoutBaseFile", "Normal-1side.json"}, {"SheetDirection", "Landscape"},
+                                       {"CreepTotalOffset", "0"}, {"BackMargin", "0"}};
+    auto expected = [&](PlistDictionary head) {
+        for (const auto& [key, value] : normalLayout) head.set(key, value);
+        return entriesOf(head);
+    };
+    EXPECT_EQ(entriesOf(toCanonical({{kMode, "Off"}, {"ImpositionNup_Fitting", "True"}})),
+              expected({{"ImpositionMode", "Off"}, {"ImpositionCustomMode", "Advanced"}, {"Fitting", "False"}}));
+    EXPECT_EQ(entriesOf(toCanonical({{kMode, "Template"}})),
+              expected({{"ImpositionMode", "Template"}, {"ImpositionCustomMode", "Advanced"}, {"Fitting", "False"}}));
+    EXPECT_EQ(entriesOf(toCanonical({{"ImpositionBooklet_Fitting", "True"}})), expected({{"Fitting", "False"}}));
+    EXPECT_EQ(entriesOf(toCanonical({{kMode, "Sideways"}})), expected({{"Fitting", "False"}}));
+}
+
+TEST(PrintOptionConverterImposition, PressLayoutReadsBackAsPageCount) {
+    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
+        {"2", "1", "Landscape", "2up"},  {"1", "2", "Portrait", "2up"},  {"2", "2", "Portrait", "4up"},
+        {"2", "2", "Landscape", "4up"},  {"4", "2", "Landscape", "8up"}, {"2", "4", "Portrait", "8up"},
+        {"4", "4", "Portrait", "16up"},  {"4", "4", "Landscape", "16up"}, {"8", "4", "Landscape", "32up"},
+        {"4", "8", "Portrait", "32up"},  {"3", "3", "Portrait", "2up"},  {"2", "1", "Portrait", "2up"},
+        {"8", "4", "Portrait", "2up"},
+    };
+    for (const auto& [repeatX, repeatY, direction, pages] : rows) {
+        auto printOption = toInternal(pressLayout(repeatX, repeatY, direction));
+        EXPECT_EQ(printOption, (PlistDictionary{{kMode, "Nup"},
+                                                {"ImpositionNup_NumOfPages", pages},
+                                                {"ImpositionBooklet_LayoutBaseFile", "Left"},
+                                                {"ImpositionBooklet_CreepTotalOffset", "0.00"}}))
+            << repeatX << "_" << repeatY << "_" << direction;
+    }
+    PlistDictionary missingPart = pressLayout("2", "2", "Portrait");
+    missingPart.erase("LayoutRepeatY");
+    EXPECT_EQ(toInternal(missingPart).stringFor("ImpositionNup_NumOfPages", ""), "2up");
+}
+
+TEST(PrintOptionConverterImposition, PressBookletReadsBackBindingAndCreep) {
+    auto printOption = toInternal({{"ImpositionMode", "Job"},
+                                   {"ImpositionCustomMode", "Booklet"},
+                                   {"LayoutBaseFile", "SaddleStiching2x1(RightBinding).json"},
+                                   {"BackMargin", "850"},
+                                   {"CreepSetting", "False"},
+                                   {"FinishedSizeHeight", "168378"},
+                                   {"RotationAngle", "Rotate90"},
+                                   {"NupLayout", "Z"}});
+    EXPECT_EQ(entriesOf(printOption), entriesOf({{kMode, "Booklet"},
+                                                 {"ImpositionBooklet_LayoutBaseFile", "Right"},
+                                                 {"ImpositionBooklet_CreepTotalOffset", "1.50"},
+                                                 {"ImpositionNup_NumOfPages", "2up"},
+                                                 {"RotationAngle", "Rotate90"},
+                                                 {"NupLayout", "Z"}}));
+    auto leftWithoutMargin = toInternal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"},
+                                         {"LayoutBaseFile", "SaddleStiching2x1(LeftBinding).json"}});
+    EXPECT_EQ(leftWithoutMargin.stringFor("ImpositionBooklet_LayoutBaseFile", ""), "Left");
+    EXPECT_EQ(leftWithoutMargin.stringFor("ImpositionBooklet_CreepTotalOffset", ""), "0.00");
+}
+
+TEST(PrintOptionConverterImposition, PressModesReadBackAsThePanesMode) {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"Off", "Advanced", "Off"},     {"Template", "Advanced", "Template"}, {"Job", "Nup", "Nup"},
+        {"Job", "Booklet", "Booklet"},  {"Job", "Advanced", "Off"},           {"Manual", "Nup", "Off"},
+    };
+    for (const auto& [impositionMode, customMode, mode] : rows) {
+        auto printOption = toInternal({{"ImpositionMode", impositionMode}, {"ImpositionCustomMode", customMode}});
+        EXPECT_EQ(printOption.stringFor(kMode, ""), mode) << impositionMode << customMode;
+        EXPECT_FALSE(printOption.contains("ImpositionMode"));
+        EXPECT_FALSE(printOption.contains("ImpositionCustomMode"));
+    }
+}
+
+TEST(PrintOptionConverterImposition, AHalfGivenPressModeStoresNoMode) {
+    auto printOption = toInternal({{"ImpositionMode", "Job"}, {"LayoutRepeatX", "2"}});
+    EXPECT_EQ(printOption, (PlistDictionary{{"ImpositionMode", "Job"},
+                                            {"ImpositionNup_NumOfPages", "2up"},
+                                            {"ImpositionBooklet_LayoutBaseFile", "Left"},
+                                            {"ImpositionBooklet_CreepTotalOffset", "0.00"}}));
+    PlistDictionary empty;
+    Converter::convertToInternalImpositionKeyword(empty);
+    EXPECT_TRUE(empty.empty());
+}
+
+TEST(PrintOptionConverterImposition, ReadingBackRemovesEveryPressLayoutKey) {
+    PlistDictionary printOption{{"ImpositionMode", "Off"}, {"ImpositionCustomMode", "Advanced"}};
+    const char* pressKeys[] = {"LayoutRepeatX",     "LayoutRepeatY",      "LayoutBaseFile",  "CreepSetting",
+                               "BackMargin",        "CreepTotalOffset",   "CreepInitialOffsetX",
+                               "FinishSheetDirection", "FinishFixedForm", "FinishedSizeName",
+                               "FinishedSizeHeight", "FinishedSizeWidth", "SheetDirection",  "FixedForm",
+                               "SheetSizeName",     "SheetSizeHeight",    "SheetSizeWidth"};
+    for (const char* key : pressKeys) printOption.set(key, "1");
+    printOption.set("FascicleMode", "None");
+    EXPECT_EQ(toInternal(printOption), (PlistDictionary{{"FascicleMode", "None"},
+                                                        {kMode, "Off"},
+                                                        {"ImpositionNup_NumOfPages", "2up"},
+                                                        {"ImpositionBooklet_LayoutBaseFile", "Left"},
+                                                        {"ImpositionBooklet_CreepTotalOffset", "0.00"}}));
+}
+
+TEST(PrintOptionConverterImposition, ScaleToFitFollowsTheCurrentMode) {
+    PlistDictionary save{{kMode, "Booklet"}, {"ImpositionNup_Fitting", "True"}, {"ImpositionBooklet_Fitting", "Yes"}};
+    Converter::saveScaleToFitValue(save);
+    EXPECT_EQ(save.stringFor("Fitting", ""), "Yes");
+    EXPECT_TRUE(save.contains("ImpositionNup_Fitting"));
+    PlistDictionary missingKey{{kMode, "Nup"}, {"ImpositionBooklet_Fitting", "True"}};
+    Converter::saveScaleToFitValue(missingKey);
+    EXPECT_EQ(missingKey.stringFor("Fitting", ""), "False");
+    PlistDictionary noMode{{"ImpositionNup_Fitting", "True"}};
+    Converter::saveScaleToFitValue(noMode);
+    EXPECT_EQ(noMode.stringFor("Fitting", ""), "False");
+
+    PlistDictionary setup{{kMode, "Nup"}, {"Fitting", "True"}};
+    Converter::setupScaleToFitValue(setup);
+    EXPECT_EQ(setup, (PlistDictionary{{kMode, "Nup"}, {"Fitting", "True"}, {"ImpositionNup_Fitting", "True"}}));
+    PlistDictionary booklet{{kMode, "Booklet"}, {"Fitting", "False"}};
+    Converter::setupScaleToFitValue(booklet);
+    EXPECT_EQ(booklet.stringFor("ImpositionBooklet_Fitting", ""), "False");
+    PlistDictionary off{{kMode, "Off"}, {"Fitting", "True"}};
+    Converter::setupScaleToFitValue(off);
+    EXPECT_EQ(off.size(), 2u);
+    PlistDictionary noFitting{{kMode, "Nup"}};
+    Converter::setupScaleToFitValue(noFitting);
+    EXPECT_EQ(noFitting.size(), 1u);
+}
+
+TEST(PrintOptionConverterImposition, SheetSizeIsGivenOnlyForCustomPaper) {
+    PlistDictionary custom{{"ChgPrintPaperSizeType", "Custom"}, {"ChgPrintPaperSizeLength", "200000"},
+                           {"ChgPrintPaperSizeWidth", "140000"}};
+    Converter::convertImpositionSheetSize(custom);
+    EXPECT_EQ(custom.stringFor("FixedForm", ""), "Custom");
+    EXPECT_EQ(custom.stringFor("SheetSizeName", "-"), "");
+    EXPECT_EQ(custom.stringFor("SheetSizeHeight", ""), "200000");
+    EXPECT_EQ(custom.stringFor("SheetSizeWidth", ""), "140000");
+
+    PlistDictionary named{{"ChgPrintPaperSizeType", "B4"}};
+    Converter::convertImpositionSheetSize(named);
+    EXPECT_EQ(named, (PlistDictionary{{"ChgPrintPaperSizeType", "B4"}, {"FixedForm", "B4"}, {"SheetSizeName", ""},
+                                      {"SheetSizeHeight", ""}, {"SheetSizeWidth", ""}}));
+
+    PlistDictionary unchanged{{"ChgPrintPaperSizeType", "NoChange"}};
+    Converter::convertImpositionSheetSize(unchanged);
+    EXPECT_EQ(unchanged.size(), 1u);
+    PlistDictionary absent;
+    Converter::convertImpositionSheetSize(absent);
+    EXPECT_TRUE(absent.empty());
+}
+
+TEST(PrintOptionConverterImposition, ModeDefaultsAreFixed) {
+    PlistDictionary nupDefaults;
+    Converter::restoreDefaultSettigImposition(nupDefaults, "Nup");
+    EXPECT_EQ(nupDefaults,
+              (PlistDictionary{{"FascicleMode", "None"}, {"NumberOfFascicle", "16"}, {"RotationAngle", "Rotate0"}}));
+    PlistDictionary bookletDefaults{{"LayoutRepeatX", "4"}};
+    Converter::restoreDefaultSettigImposition(bookletDefaults, "Booklet");
+    EXPECT_EQ(bookletDefaults, (PlistDictionary{{"LayoutRepeatX", "1"}, {"ImpositionAutoDuplex", "True"},
+                                                {"NupLayout", "Z"}, {"LayoutRepeatY", "1"}}));
+    PlistDictionary other;
+    Converter::restoreDefaultSettigImposition(other, "Template");
+    EXPECT_TRUE(other.empty());
+}
+
+TEST(PrintOptionConverterImposition, FinishedSheetsLieLandscapeOnlyForTheListedSizes) {
+    for (const char* name : {"A4LEF", "B5LEF", "80x100LEF", "85x110LEF", "A2LEF", "B3LEF", "A4Booklet", "B5Booklet",
+                             "A5Booklet", "85x110Booklet", "A5LEF", "260x180", "A6Booklet", "B6Booklet", "16KaiLEF",
+                             "260x190", "Kikuban16LEF", "Kikuban8LEF", "Shirokuban16LEF", "Envkaku3LEF"})
+        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Landscape") << name;
+    for (const char* name : {"A4SEF", "A3", "16KaiLEFC", "Envyouchou3LEF", "a4lef", "", "Custom"})
+        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Portrait") << name;
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <map>
+#include <ostream>
+#include <string>
+
+#include "core/PlistValue.h"
+#include "ppd/PrintOptionConverter.h"
+
+namespace ComQuorvantVelmar_Plugin {
+
+// Readable failure messages for dictionaries.
+inline void PrintTo(const PlistValue& value, std::ostream* out) {
+    if (const auto* text = value.string()) {
+        *out << '"' << *text << '"';
+    } else if (const auto* flag = value.boolean()) {
+        *out << (*flag ? "true" : "false");
+    } else if (const auto* number = value.integer()) {
+        *out << *number;
+    } else if (const auto* number = value.real()) {
+        *out << *number;
+    } else if (const auto* dictionary = value.dictionary()) {
+        *out << '{';
+        for (const auto& [key, item] : *dictionary) {
+            *out << '"' << key << "\": ";
+            PrintTo(item, out);
+            *out << ", ";
+        }
+        *out << '}';
+    } else {
+        *out << (value.isNull() ? "null" : "[...]");
+    }
+}
+
+inline void PrintTo(const PlistDictionary& dictionary, std::ostream* out) { PrintTo(PlistValue(dictionary), out); }
+
+}  // namespace ComQuorvantVelmar_Plugin
+
+namespace ConverterTest {
+
+using ComQuorvantVelmar_Plugin::PlistDictionary;
+using ComQuorvantVelmar_Plugin::PrintOptionConverter;
+
+inline PlistDictionary canonical(PlistDictionary printOption, int convertCustomFlg = 1) {
+    PrintOptionConverter::convertToCanonicalPpdKeyword(printOption, convertCustomFlg);
+    return printOption;
+}
+
+inline PlistDictionary internal(PlistDictionary printOption) {
+    PrintOptionConverter::convertToInternalPpdKeyword(printOption);
+    return printOption;
+}
+
+/// expected followed by the N-up and booklet keys that reading back a dictionary without
+/// imposition always adds.
+inline PlistDictionary withSinglePageImposition(PlistDictionary expected) {
+    expected.set("ImpositionNup_NumOfPages", "2up");
+    expected.set("ImpositionBooklet_LayoutBaseFile", "Left");
+    expected.set("ImpositionBooklet_CreepTotalOffset", "0.00");
+    return expected;
+}
+
+}  // namespace ConverterTest
+
+namespace ConverterTest {
+
+/// The dictionary's entries by key, for comparisons where the order of keys is no part
+/// of the answer.
+inline std::map<std::string, ComQuorvantVelmar_Plugin::PlistValue> entriesOf(const PlistDictionary& dictionary) {
+    return {dictionary.begin(), dictionary.end()};
+}
+
+}  // namespace ConverterTest
