@@ -41,7 +41,7 @@ private:
         if (!control || !feeders || !feeders->array() || feeders->array()->empty()) return;
         PlistArray trays;
         IOTOptionUpdater::getInputSlotArray(trays, *feeders, leadingTrays, trailingTrays, reportsInterposer(*feeders));
-        const auto value = control->getStringValue();
+        const auto value = control->getUnsportValue() ? control->getUnsportValue() : control->getStringValue();
         IOTOptionUpdater::updateInputSlotVORNUI(*control, trays);
         if (value) control->setStringValue(*value);
     }

@@ -120,7 +120,7 @@ void StandardPane::refreshResourceList(const std::string& key, const std::string
     if (!control || !operation) return;
     auto rows = operation(*_callback);
     if (!rows) return;
-    const auto value = control->getStringValue();
+    const auto value = control->getUnsportValue() ? control->getUnsportValue() : control->getStringValue();
     control->addPopupButtonArray(PlistValue(entriesOfRows(*rows)));
     if (value) control->setStringValue(*value);
 }
