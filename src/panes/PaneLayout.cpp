@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Diagnostics.h"
 #include "settings_ui/TabViewNode.h"
 #include "settings_ui/VORNUI.h"
 
@@ -9,17 +10,22 @@ namespace ComQuorvantVelmar_Plugin::PaneLayout {
 namespace {
 
 constexpr double margin = 12;
+// Deeper trees are no layout a pane shows; they are cut off rather than followed.
+constexpr int deepestView = 16;
 constexpr double spacing = 4;
 constexpr double tabHeaderHeight = 28;
 
+std::shared_ptr<ViewNode> viewAtDepth(const PlistValue& description, const std::optional<std::string>& role,
+                                      const Localizer& localizer, int depth);
+
 std::shared_ptr<ViewNode> tabViewOf(const PlistDictionary& description, const std::optional<std::string>& role,
-                                    const Localizer& localizer) {
+                                    const Localizer& localizer, int depth) {
     auto tabView = std::make_shared<TabViewNode>();
     const PlistValue* tabs = description.find("tabs");
     for (const PlistValue& tab : tabs && tabs->array() ? *tabs->array() : PlistArray{}) {
         const PlistDictionary* entry = tab.dictionary();
         const PlistValue* page = entry ? entry->find("view") : nullptr;
-        auto view = page ? viewOfDescription(*page, role, localizer) : nullptr;
+        auto view = page ? viewAtDepth(*page, role, localizer, depth + 1) : nullptr;
         if (!view) continue;
         tabView->addTab({localizer(withRole(entry->stringFor("label", ""), role)),
                          withRole(entry->stringFor("identifier", ""), role), view});
@@ -28,11 +34,11 @@ std::shared_ptr<ViewNode> tabViewOf(const PlistDictionary& description, const st
 }
 
 std::shared_ptr<ViewNode> containerOf(const PlistDictionary& description, const std::optional<std::string>& role,
-                                      const Localizer& localizer) {
+                                      const Localizer& localizer, int depth) {
     auto container = std::make_shared<ViewNode>();
     const PlistValue* subviews = description.find("subviews");
     for (const PlistValue& subview : subviews && subviews->array() ? *subviews->array() : PlistArray{})
-        if (auto view = viewOfDescription(subview, role, localizer)) container->addSubview(view);
+        if (auto view = viewAtDepth(subview, role, localizer, depth + 1)) container->addSubview(view);
     return container;
 }
 
@@ -65,6 +71,29 @@ double layOutStack(ViewNode& container, double width) {
     return top - (container.subviews().empty() ? 0 : spacing) + margin;
 }
 
+std::shared_ptr<ViewNode> viewAtDepth(const PlistValue& description, const std::optional<std::string>& role,
+                                      const Localizer& localizer, int depth) {
+    const PlistDictionary* entry = description.dictionary();
+    if (!entry) return nullptr;
+    if (depth > deepestView) {
+        Diagnostics::log("### pane layout nested too deeply; the rest is left out");
+        return nullptr;
+    }
+    const std::string className = entry->stringFor("class", "View");
+    std::shared_ptr<ViewNode> view;
+    if (className == "TabView") {
+        view = tabViewOf(*entry, role, localizer, depth);
+    } else if (className == "VORNUI") {
+        view = std::make_shared<VORNUI>();
+        view->setToolTip(withRole(entry->stringFor("key", ""), role));
+    } else {
+        view = containerOf(*entry, role, localizer, depth);
+    }
+    if (const PlistValue* hidden = entry->find("hidden"); hidden && hidden->boolean())
+        view->setHiddenView(*hidden->boolean());
+    return view;
+}
+
 }  // namespace
 
 std::string withRole(const std::string& text, const std::optional<std::string>& role) {
@@ -80,23 +109,11 @@ std::string withRole(const std::string& text, const std::optional<std::string>& 
     return result;
 }
 
+
+
 std::shared_ptr<ViewNode> viewOfDescription(const PlistValue& description, const std::optional<std::string>& role,
                                             const Localizer& localizer) {
-    const PlistDictionary* entry = description.dictionary();
-    if (!entry) return nullptr;
-    const std::string className = entry->stringFor("class", "View");
-    std::shared_ptr<ViewNode> view;
-    if (className == "TabView") {
-        view = tabViewOf(*entry, role, localizer);
-    } else if (className == "VORNUI") {
-        view = std::make_shared<VORNUI>();
-        view->setToolTip(withRole(entry->stringFor("key", ""), role));
-    } else {
-        view = containerOf(*entry, role, localizer);
-    }
-    if (const PlistValue* hidden = entry->find("hidden"); hidden && hidden->boolean())
-        view->setHiddenView(*hidden->boolean());
-    return view;
+    return viewAtDepth(description, role, localizer, 0);
 }
 
 void layOut(ViewNode& root) {

@@ -107,6 +107,7 @@ public:
     const std::string& getUIFilePath() const { return _uiFilePath; }
     /// Name of the UI settings file ("QVPOD"); "" when the bundle names none.
     const std::string& isPOD() const { return _uiPOD; }
+    /// Flags of the bundle information: panes as a tab tree, the host's own controls hidden.
     bool getTabTreeView() const { return _uiTabTreeView; }
     bool isHiddenNumCopies() const { return _isHiddenNumCopies; }
     bool isHiddenDuplex() const { return _isHiddenDuplex; }
@@ -143,6 +144,7 @@ public:
 
     // ---- Values, defaults, profiles and enabled states ----
 
+    /// Writes value into key's settings (the value comes first, the key second).
     void setStringValue(const std::string& value, const std::string& key);
     /// The value of key's control; nothing when none is registered.
     std::optional<std::string> getStringValueFromKey(const std::string& key);
@@ -150,6 +152,7 @@ public:
     /// nothing when nothing conflicted.
     std::optional<std::vector<std::string>> setStringValueWithRestoreConfliction(const std::string& value,
                                                                                  const std::string& key);
+    /// Remembers key's value as its previous value.
     void updateOldValue(const std::string& key);
     /// Asks before key takes value from outside the panes; false when the user declines.
     bool validateBeforeChange(const std::string& key, const std::string& value, const std::optional<std::string>& name);
@@ -167,21 +170,31 @@ public:
     std::optional<PlistDictionary> summaryInfoFromPrintOption(const PlistDictionary* printOption);
     /// The current profile file's entries; nothing without one.
     std::optional<PlistDictionary> dictionaryOfCurrentProfile() const;
+    /// Path of the current profile file; "" when none was given.
     const std::string& currentProfilePath() const { return _currentProfilePath; }
+    /// Makes profilePath the current profile and lets the pane loaded under name refresh its
+    /// profile menus; nothing when no pane has that name.
     void updateProfileByBundleName(const std::string& name, const std::string& profilePath);
+    /// updateProfileByBundleName for every loaded pane.
     void updateProfilesOfAllBundles(const std::string& profilePath);
+    /// updateEnabledStatesByBundleName for every loaded pane.
     void updateEnabledStates(const std::optional<std::string>& fileType, bool unifiedFileType, bool useServerSetting,
                              bool sameSettingForNext);
+    /// Lets the pane loaded under name enable its settings for the job; nothing without it.
     void updateEnabledStatesByBundleName(const std::string& name, const std::optional<std::string>& fileType,
                                          bool unifiedFileType, bool useServerSetting, bool sameSettingForNext);
     /// Whether settings may be edited: exactly when the server's settings do not apply.
     bool _isEnable(const std::optional<std::string>& fileType, bool useServerSetting, bool sameSettingForNext,
                    bool unifiedFileType) const;
+    /// Lets the pane loaded under name show its defaults; nothing without it.
     void revertToDefaultByBundleName(const std::string& name);
+    /// Hides or shows each control of the list, in order.
     void setHidden(bool hidden, const std::vector<std::shared_ptr<ViewNode>>& controls);
+    /// Enables or disables each control of the list, in order.
     void setEnabled(bool enabled, const std::vector<std::shared_ptr<ViewNode>>& controls);
     /// The value a plain control shows; nothing for an unknown kind or no selection.
     std::optional<PlistValue> getValueFromControl(const PlainControl* control) const;
+    /// The same, for any caller.
     static std::optional<PlistValue> _getValueFromControl(const PlainControl* control);
     /// Shows value in a plain control by its kind; null control or value changes nothing.
     static void _setValueToControl(PlainControl* control, const PlistValue* value);
@@ -220,6 +233,9 @@ public:
     static int checkPageRangeForSpecialToner(const std::string& range);
 
     // ---- Server resource lists by command name ----
+    // Each answers what the dialog extension object answers to its command (the names below
+    // without "get" and "List", "JobResource-<TYPE>" for files of a type); nothing without
+    // that object or when it has no answer. The WithResourceSet forms send the same command.
 
     std::optional<PlistValue> getStackerInfoList();
     std::optional<PlistValue> getFeederInfoList();
@@ -261,9 +277,11 @@ public:
     std::optional<PlistValue> getCalibFileList();
     /// Asks for every list once, so that the dialog extension object holds them.
     void getAllList();
+    /// The print server's host; "" until the dialog host sets it.
     const std::string& getHostName() const { return _hostName; }
     const std::string& destinationAddress() const { return _hostName; }
     void setHostName(const std::string& hostName) { _hostName = hostName; }
+    /// Whether the server lists were fetched for this dialog; false for a new manager.
     void setInitializedNetworkData(bool initialized) { _isInitializedNetworkData = initialized; }
     bool isInitializedNetworkData() const { return _isInitializedNetworkData; }
 

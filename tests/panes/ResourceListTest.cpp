@@ -95,8 +95,10 @@ TEST(ResourceLists, EachListIsThePrintersDataOfItsCommand) {
         ASSERT_TRUE(list) << command;
         EXPECT_EQ(*list, sourceList(command)) << command;
     }
-    ASSERT_TRUE(scope.manager().getFeederInfoList()->array());
-    EXPECT_EQ((*scope.manager().getFeederInfoList()->array())[0], (PlistValue(PlistArray{"1", "Number"})));
+    const auto feederList = scope.manager().getFeederInfoList();
+    const PlistArray* feeders = feederList ? feederList->array() : nullptr;
+    ASSERT_TRUE(feeders && !feeders->empty() && (*feeders)[0].array());
+    EXPECT_EQ((*feeders)[0].array()->back(), PlistValue("Number"));
 }
 
 TEST(ResourceLists, EveryOperationSendsItsOwnCommandName) {
