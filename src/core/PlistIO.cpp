@@ -123,15 +123,37 @@ plist_t toNode(const PlistValue& value) {
     return nullptr;
 }
 
+// libplist 2.2 aborts the process when a string or key holding a NUL byte is read back.
+// Valid XML never holds one, so such text is refused; a binary list is rewritten as XML,
+// which ends each text at its NUL, and read from there.
+PlistHandle parseSafely(std::string_view bytes) {
+    const auto length = static_cast<uint32_t>(bytes.size());
+    plist_t root = nullptr;
+    if (!plist_is_binary(bytes.data(), length)) {
+        if (bytes.find('\0') != std::string_view::npos) return nullptr;
+        plist_from_xml(bytes.data(), length, &root);
+        return PlistHandle(root);
+    }
+    plist_from_bin(bytes.data(), length, &root);
+    PlistHandle binary(root);
+    if (!binary) return nullptr;
+    char* xml = nullptr;
+    uint32_t xmlLength = 0;
+    plist_to_xml(binary.get(), &xml, &xmlLength);
+    if (!xml) return nullptr;
+    root = nullptr;
+    plist_from_xml(xml, xmlLength, &root);
+    plist_to_xml_free(xml);
+    return PlistHandle(root);
+}
+
 }  // namespace
 
 std::optional<PlistValue> parse(std::string_view bytes) {
     if (bytes.empty() || bytes.size() > std::numeric_limits<uint32_t>::max()) return std::nullopt;
-    plist_t root = nullptr;
-    plist_from_memory(bytes.data(), static_cast<uint32_t>(bytes.size()), &root);
+    PlistHandle root = parseSafely(bytes);
     if (!root) return std::nullopt;
-    PlistHandle handle(root);
-    return fromNode(root);
+    return fromNode(root.get());
 }
 
 std::optional<PlistValue> readFile(const std::string& path) {
