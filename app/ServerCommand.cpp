@@ -178,7 +178,10 @@ void printRows(const ServerRowList& rows, const std::string& format) {
     }
     for (const auto& row : rows) {
         std::string line;
-        for (std::size_t column = 0; column < row.size(); ++column) line += (column ? "\t" : "") + tsvField(row[column]);
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            if (column) line += '\t';
+            line += tsvField(row[column]);
+        }
         std::printf("%s\n", line.c_str());
     }
 }

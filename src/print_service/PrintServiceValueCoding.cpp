@@ -49,6 +49,17 @@ ValueType typeNamed(std::string_view className) {
     return ValueType::None;
 }
 
+// Whether a type attribute could name a value type at all, judged by its local part alone.
+// A "val" of a large reply is nearly always "xsd:string" or the like: it is read as text
+// without looking its prefix up.
+bool mayNameValueType(std::string_view type) {
+    const std::size_t colon = type.find(':');
+    if (colon == std::string_view::npos) return typeNamed(type) != ValueType::None;
+    std::string_view local = type.substr(colon + 1);
+    local = local.substr(0, local.find(':'));
+    return typeNamed("PrintService", local) != ValueType::None;
+}
+
 }  // namespace
 
 ValueType resolvedType(const xmlNode* node, ValueType declared) {
@@ -70,6 +81,11 @@ ValueType resolvedType(const xmlNode* node, ValueType declared) {
 }
 
 std::optional<PrintServiceValue> decodeObject(xmlNode* node, ValueType declared) {
+    if (declared == ValueType::String) {
+        std::optional<NodeText> type =
+            PrintServiceXml::attributeValue(node, "type", PrintServiceNamespaces::kSchemaInstance);
+        if (!type || !mayNameValueType(type->view())) return std::nullopt;
+    }
     switch (resolvedType(node, declared)) {
     case ValueType::PropDict: return PrintService_PropDict::deserializeNode(node);
     case ValueType::PropArray: return PrintService_PropArray::deserializeNode(node);
