@@ -9,6 +9,7 @@
 #include "print_service/PrintServiceSoap.h"
 #include "print_service/PrintServiceSoapOperations.h"
 #include "print_service/PrintServiceSoap_envelope.h"
+#include "print_service/SOAPFault.h"
 #include "print_service/WebServiceClientRows_p.h"
 
 namespace {

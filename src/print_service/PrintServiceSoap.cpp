@@ -95,24 +95,13 @@ std::set<std::string, std::less<>> namesSetBy(const std::vector<std::string>& he
 
 }  // namespace
 
-struct PrintServiceSoap::Transfers {
-    CURLM* multi = curl_multi_init();
-    CURLSH* cookieEngine = curl_share_init();
-
-    Transfers() { curl_share_setopt(cookieEngine, CURLSHOPT_SHARE, CURL_LOCK_DATA_COOKIE); }
-    ~Transfers() {
-        curl_multi_cleanup(multi);
-        curl_share_cleanup(cookieEngine);
-    }
-};
-
 PrintServiceSoap::PrintServiceSoap(std::string_view address) {
     initializeLibcurl();
     PrintService::initialize();
     Endpoint endpoint = parseEndpoint(address);
     _address = std::move(endpoint.address);
     _host = std::move(endpoint.host);
-    _transfers = std::make_unique<Transfers>();
+    _transfers = std::make_unique<PrintServiceSoapTransfers>();
 }
 
 PrintServiceSoap::~PrintServiceSoap() {
@@ -164,13 +153,11 @@ void PrintServiceSoap::sendHTTPCallUsingBody(const std::string& body, const std:
                                              _allowsHTTPS,     _transfers->cookieEngine,
                                              &_authUsername,   &_authPassword};
     operation._urlConnection = std::make_unique<PrintServiceSoapConnection>(operation, settings);
-    if (!operation._urlConnection->startIn(_transfers->multi)) {
+    if (!operation._urlConnection->startIn(*_transfers)) {
         operation._urlConnection.reset();
         operation.connectionDidFailWithError(
             {PrintServiceSoapError::kTransportDomain, CURLE_FAILED_INIT, "The request could not be started"});
-        return;
     }
-    ++_runningTransfers;
 }
 
 PrintServiceSoapResponse PrintServiceSoap::performSynchronousOperation(PrintServiceSoapOperation& operation) {
@@ -192,7 +179,7 @@ bool PrintServiceSoap::processNetworkEvents(int waitMilliseconds) {
     int running = 0;
     curl_multi_perform(_transfers->multi, &running);
     _dispatchFinishedTransfers();
-    if (_runningTransfers == 0) return false;
+    if (_transfers->attached == 0) return false;
     curl_multi_poll(_transfers->multi, nullptr, 0, waitMilliseconds, nullptr);
     return true;
 }
@@ -203,7 +190,6 @@ void PrintServiceSoap::_dispatchFinishedTransfers() {
         if (message->msg != CURLMSG_DONE) continue;
         const CURLcode result = message->data.result;
         PrintServiceSoapConnection* connection = PrintServiceSoapConnection::of(message->easy_handle);
-        --_runningTransfers;
         if (!connection) continue;
         PrintServiceSoapOperation& operation = connection->operation();
         connection->didComplete(result);

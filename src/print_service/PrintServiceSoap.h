@@ -12,6 +12,8 @@
 #include "print_service/PrintServiceSoapOperation.h"
 #include "print_service/PrintServiceSoapResponse.h"
 
+struct PrintServiceSoapTransfers;
+
 /// The binding of the print service: the endpoint, the request settings and the cookie
 /// engine that its calls share. Each call sends one HTTP POST (http only, unless https is
 /// allowed) and waits at most defaultTimeout seconds.
@@ -121,8 +123,6 @@ private:
     std::optional<std::string> _authPassword;
     std::size_t _maximumReplySize = kDefaultMaximumReplySize;
     bool _allowsHTTPS = false;
-    struct Transfers;  // libcurl's multi handle and cookie engine
-    std::unique_ptr<Transfers> _transfers;
-    int _runningTransfers = 0;
+    std::unique_ptr<PrintServiceSoapTransfers> _transfers;
     std::vector<std::unique_ptr<PrintServiceSoapOperation>> _asynchronousOperations;
 };

@@ -34,7 +34,7 @@ PrintServiceSoapConnection::PrintServiceSoapConnection(PrintServiceSoapOperation
 }
 
 PrintServiceSoapConnection::~PrintServiceSoapConnection() {
-    if (_multi) curl_multi_remove_handle(_multi, _easy);
+    _detach();
     curl_easy_cleanup(_easy);
     curl_slist_free_all(_headers);
 }
@@ -99,10 +99,18 @@ void PrintServiceSoapConnection::_configureAuthentication(const PrintServiceSoap
         curl_easy_setopt(_easy, CURLOPT_PASSWORD, (*settings.password)->c_str());
 }
 
-bool PrintServiceSoapConnection::startIn(CURLM* multi) {
-    if (!_easy || curl_multi_add_handle(multi, _easy) != CURLM_OK) return false;
-    _multi = multi;
+bool PrintServiceSoapConnection::startIn(PrintServiceSoapTransfers& transfers) {
+    if (!_easy || curl_multi_add_handle(transfers.multi, _easy) != CURLM_OK) return false;
+    _transfers = &transfers;
+    ++transfers.attached;
     return true;
+}
+
+void PrintServiceSoapConnection::_detach() {
+    if (!_transfers) return;
+    curl_multi_remove_handle(_transfers->multi, _easy);
+    --_transfers->attached;
+    _transfers = nullptr;
 }
 
 PrintServiceSoapConnection* PrintServiceSoapConnection::of(CURL* easy) {
@@ -143,8 +151,7 @@ std::size_t PrintServiceSoapConnection::receiveData(char* data, std::size_t size
 }
 
 void PrintServiceSoapConnection::didComplete(CURLcode result) {
-    if (_multi) curl_multi_remove_handle(_multi, _easy);
-    _multi = nullptr;
+    _detach();
     if (_replyHeadComplete) _operation.connectionDidReceiveResponse(_reply);
     if (result != CURLE_OK)
         _operation.connectionDidFailWithError(_transportError(result));

@@ -8,6 +8,22 @@
 
 #include "print_service/PrintServiceSoapOperation.h"
 
+/// A binding's transfers: libcurl's multi handle, the cookie engine its requests share, and
+/// how many requests are in the multi handle.
+struct PrintServiceSoapTransfers {
+    CURLM* multi = curl_multi_init();
+    CURLSH* cookieEngine = curl_share_init();
+    int attached = 0;
+
+    PrintServiceSoapTransfers() { curl_share_setopt(cookieEngine, CURLSHOPT_SHARE, CURL_LOCK_DATA_COOKIE); }
+    ~PrintServiceSoapTransfers() {
+        curl_multi_cleanup(multi);
+        curl_share_cleanup(cookieEngine);
+    }
+    PrintServiceSoapTransfers(const PrintServiceSoapTransfers&) = delete;
+    PrintServiceSoapTransfers& operator=(const PrintServiceSoapTransfers&) = delete;
+};
+
 /// How one request is sent; filled by the binding.
 struct PrintServiceSoapRequestSettings {
     std::string url;
@@ -30,8 +46,8 @@ public:
     PrintServiceSoapConnection(const PrintServiceSoapConnection&) = delete;
     PrintServiceSoapConnection& operator=(const PrintServiceSoapConnection&) = delete;
 
-    /// Adds the transfer to multi; false when libcurl refuses it.
-    bool startIn(CURLM* multi);
+    /// Adds the transfer to the binding's transfers; false when libcurl refuses it.
+    bool startIn(PrintServiceSoapTransfers& transfers);
     /// Takes the finished transfer out of its multi handle and reports its end to the operation.
     void didComplete(CURLcode result);
     /// The operation whose request this is.
@@ -40,6 +56,7 @@ public:
     static PrintServiceSoapConnection* of(CURL* easy);
 
 private:
+    void _detach();
     static std::size_t receiveHeader(char* data, std::size_t size, std::size_t count, void* self);
     static std::size_t receiveData(char* data, std::size_t size, std::size_t count, void* self);
     void _configure(const PrintServiceSoapRequestSettings& settings);
@@ -50,7 +67,7 @@ private:
 
     PrintServiceSoapOperation& _operation;
     CURL* _easy = nullptr;
-    CURLM* _multi = nullptr;
+    PrintServiceSoapTransfers* _transfers = nullptr;
     curl_slist* _headers = nullptr;
     std::string _body;
     std::size_t _maximumReplySize = 0;

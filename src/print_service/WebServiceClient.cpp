@@ -21,7 +21,7 @@ auto statusOKSilently = [](const auto& response) { return statusIsOK(response.st
 
 // Appends the columns of each record of the array field that Field selects.
 template <class Field>
-auto recordColumns(Field field, std::initializer_list<std::string_view> keys) {
+auto recordColumns(Field field, std::vector<std::string_view> keys) {
     return [field, keys](const auto& response, ServerRowList& rows) {
         forEachRecord(response.*field, [&](const PrintService_PropDict& record) { rows.push_back(columns(record, keys)); });
     };
@@ -29,7 +29,7 @@ auto recordColumns(Field field, std::initializer_list<std::string_view> keys) {
 
 // The same, leaving out records without any of the keys.
 template <class Field>
-auto filledRecordColumns(Field field, std::initializer_list<std::string_view> keys) {
+auto filledRecordColumns(Field field, std::vector<std::string_view> keys) {
     return [field, keys](const auto& response, ServerRowList& rows) {
         forEachRecord(response.*field, [&](const PrintService_PropDict& record) {
             if (ServerRow row = columns(record, keys); !row.empty()) rows.push_back(std::move(row));
@@ -39,7 +39,7 @@ auto filledRecordColumns(Field field, std::initializer_list<std::string_view> ke
 
 // The columns, then each "TonerTarget" value as the last column.
 template <class Field>
-auto recordColumnsWithTonerTarget(Field field, std::initializer_list<std::string_view> keys) {
+auto recordColumnsWithTonerTarget(Field field, std::vector<std::string_view> keys) {
     return [field, keys](const auto& response, ServerRowList& rows) {
         forEachRecord(response.*field, [&](const PrintService_PropDict& record) {
             ServerRow row = columns(record, keys);

@@ -24,7 +24,7 @@ std::string valueText(const PrintService_PropKeyValue& item) {
     return text ? *text : std::string();
 }
 
-bool isOneOf(const std::string& key, std::initializer_list<std::string_view> keys) {
+bool isOneOf(const std::string& key, const std::vector<std::string_view>& keys) {
     for (std::string_view wanted : keys)
         if (key == wanted) return true;
     return false;
@@ -100,7 +100,7 @@ void appendKeyValueRows(const PrintService_PropDict& dictionary, std::optional<s
     }
 }
 
-ServerRow columns(const PrintService_PropDict& record, std::initializer_list<std::string_view> keys) {
+ServerRow columns(const PrintService_PropDict& record, const std::vector<std::string_view>& keys) {
     ServerRow row;
     for (const PrintServiceValue& item : record.item)
         if (const auto* keyValue = keyedItem(item); keyValue && isOneOf(*keyValue->key, keys))

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "print_service/PrintServiceResultCodes.h"
 #include "print_service/PrintServiceValue.h"
@@ -35,7 +35,7 @@ void appendKeyValueRows(const PrintService_PropDict& dictionary, std::optional<s
                         ServerRowList& rows);
 /// The values of record's items keyed one of keys, in the record's order; "" for an item
 /// without a string value.
-ServerRow columns(const PrintService_PropDict& record, std::initializer_list<std::string_view> keys);
+ServerRow columns(const PrintService_PropDict& record, const std::vector<std::string_view>& keys);
 /// Appends the value of each "TonerTarget" item of record ("" when absent).
 void appendTonerTargets(const PrintService_PropDict& record, ServerRow& row);
 /// Whether record's "Type" suits profile kind (0 "Colorimetry", 1 "ICC"; any other kind none).
