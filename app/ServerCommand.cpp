@@ -57,11 +57,11 @@ const std::vector<ServerList>& serverLists() {
         {"density-profiles", [](auto& c, const auto& q) { return c.getDensityAdjustProfileList(q.host); }},
         {"trc-profiles", [](auto& c, const auto& q) { return c.getUserTrcProfileList(q.host); }},
         {"fonts", [](auto& c, const auto& q) { return c.getFontList(q.host); }},
-        {"output-profiles", [](auto& c, const auto& q) { return c.getOutputProfileFileList(q.host, q.kind); }, false,
-         true},
-        {"rgb-input-profiles", [](auto& c, const auto& q) { return c.getRGBInputProfileFileList(q.host); }},
-        {"cmyk-input-profiles", [](auto& c, const auto& q) { return c.getCMYKInputProfileFileList(q.host, q.kind); },
+        {"output-profiles", [](auto& c, const auto& q) { return c.getOutputProfileFileList(q.host, q.kind); },
          false, true},
+        {"rgb-input-profiles", [](auto& c, const auto& q) { return c.getRGBInputProfileFileList(q.host); }},
+        {"cmyk-input-profiles",
+         [](auto& c, const auto& q) { return c.getCMYKInputProfileFileList(q.host, q.kind); }, false, true},
         {"device-link-files", [](auto& c, const auto& q) { return c.getDeviceLinkFileList(q.host); }},
     };
     return lists;
@@ -100,7 +100,8 @@ int portOf(const std::string& host, std::string_view text) {
 
 // HOST, HOST:PORT, [IPv6] or [IPv6]:PORT; a bare IPv6 address (more than one ":") has no port.
 void parseHost(const std::string& text, ServerQuery& query) {
-    if (text.empty()) throw UsageError("--host needs a host name or address");
+    if (!WebServiceClient::isHostAddress(text))
+        throw UsageError("--host \"" + text + "\" is no host name or address");
     if (text.front() == '[') {
         const std::size_t close = text.find(']');
         if (close == std::string::npos) throw UsageError("--host " + text + " lacks its closing \"]\"");
@@ -146,7 +147,8 @@ std::string serverName(const ServerQuery& query, const WebServiceClient& client)
 }
 
 // A call that ended without a usable reply becomes the command's failure.
-void failOnError(const std::optional<ServerRowList>& rows, const WebServiceClient& client, const ServerQuery& query) {
+void failOnError(const std::optional<ServerRowList>& rows, const WebServiceClient& client,
+                 const ServerQuery& query) {
     const std::string server = "the print server " + serverName(query, client);
     if (!rows) throw CommandError(ExitUnreachable, server + " may not be contacted from this program");
     const auto& error = client.lastResponseError();
@@ -161,11 +163,20 @@ std::string tsvField(const std::string& value) {
     std::string field;
     for (char character : value) {
         switch (character) {
-        case '\t': field += "\\t"; break;
-        case '\n': field += "\\n"; break;
-        case '\r': field += "\\r"; break;
-        case '\\': field += "\\\\"; break;
-        default: field += character;
+            case '\t':
+                field += "\\t";
+                break;
+            case '\n':
+                field += "\\n";
+                break;
+            case '\r':
+                field += "\\r";
+                break;
+            case '\\':
+                field += "\\\\";
+                break;
+            default:
+                field += character;
         }
     }
     return field;

@@ -24,21 +24,23 @@ std::string jobResourceReply() {
     std::string reply =
         R"(<?xml version="1.0" encoding="utf-8"?><soap:Envelope xmlns:soap="http://schemas.xmlsoap.org/soap/envelope/" )"
         R"(xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" xmlns:xsd="http://www.w3.org/2001/XMLSchema">)"
-        R"(<soap:Body><GetJobResourceListResponse xmlns="qv:vorn"><resInfo d=")" + std::to_string(kRecords) + "\">";
+        R"(<soap:Body><GetJobResourceListResponse xmlns="qv:vorn"><resInfo d=")" +
+        std::to_string(kRecords) + "\">";
     for (int record = 0; record < kRecords; ++record) {
         const std::string number = std::to_string(record);
         reply += R"(<item xsi:type="q1:PropDict" xmlns:q1="qv:vorn">)";
         reply += item("JobRecListName", "Resource " + number + " booklet A4 saddle stitched");
         reply += item("JobRecListComment", "Created for customer order " + number + " &amp; reprints");
-        reply += item("JobRecListDateTimeValue", "2023/06/" + std::to_string(1 + record % 28) + " 10:" +
-                                                     std::to_string(10 + record % 50) + ":00");
+        reply += item("JobRecListDateTimeValue", "2023/06/" + std::to_string(1 + record % 28) +
+                                                     " 10:" + std::to_string(10 + record % 50) + ":00");
         reply += item("JobRecListId", number, "xsd:int");
         reply += item("Owner", "operator" + std::to_string(record % 7));
         reply += item("Locked", record % 3 ? "false" : "true", "xsd:boolean");
         reply += "</item>";
     }
-    reply += "</resInfo><status>OK</status><bResult>true</bResult><nDetail>0</nDetail>"
-             "</GetJobResourceListResponse></soap:Body></soap:Envelope>";
+    reply +=
+        "</resInfo><status>OK</status><bResult>true</bResult><nDetail>0</nDetail>"
+        "</GetJobResourceListResponse></soap:Body></soap:Envelope>";
     return reply;
 }
 

@@ -35,8 +35,10 @@ void pickRows(const PrintServiceSoapResponse& response, ServerRowList& rows) {
         if (part->dict) pickRows(*part->dict, rows);
     for (const auto& part : response.bodyPartsOfType<PrintService_GetJobFolderListResponse>())
         if (part->dict) pickRows(*part->dict, rows);
-    for (const auto& part : response.bodyPartsOfType<PrintService_getStackerInfoListResponse>()) pickRows(part->ary, rows);
-    for (const auto& part : response.bodyPartsOfType<PrintService_getCalibFileListResponse>()) pickRows(part->arry, rows);
+    for (const auto& part : response.bodyPartsOfType<PrintService_getStackerInfoListResponse>())
+        pickRows(part->ary, rows);
+    for (const auto& part : response.bodyPartsOfType<PrintService_getCalibFileListResponse>())
+        pickRows(part->arry, rows);
     for (const auto& part : response.bodyPartsOfType<PrintService_GetJobResourceListResponse>()) {
         pickRows(part->resInfo, rows);
         jobResourceStatusIsUsable(part->status, part->nDetail);

@@ -24,8 +24,8 @@ std::optional<Number> parseNumber(std::string_view text) {
 // A number's text read as the server's clients read it: leading blanks skipped, the longest
 // numeric prefix taken, 0 when there is none.
 double leadingDouble(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t' || text.front() == '\n' ||
-                             text.front() == '\r'))
+    while (!text.empty() &&
+           (text.front() == ' ' || text.front() == '\t' || text.front() == '\n' || text.front() == '\r'))
         text.remove_prefix(1);
     if (!text.empty() && text.front() == '+') text.remove_prefix(1);
     double value = 0;
@@ -123,10 +123,12 @@ void PrintServiceFieldWriter::operator()(std::string_view name, const PrintServi
     addText(name, PrintService_ServiceResult_stringFromEnum(field));
 }
 
-void PrintServiceFieldWriter::operator()(std::string_view name, const std::shared_ptr<PrintService_PropDict>& field) {
+void PrintServiceFieldWriter::operator()(std::string_view name,
+                                         const std::shared_ptr<PrintService_PropDict>& field) {
     if (field) xmlAddChild(_node, field->xmlNodeForDoc(_node->doc, name));
 }
 
-void PrintServiceFieldWriter::operator()(std::string_view name, const std::shared_ptr<PrintService_PropArray>& field) {
+void PrintServiceFieldWriter::operator()(std::string_view name,
+                                         const std::shared_ptr<PrintService_PropArray>& field) {
     if (field) xmlAddChild(_node, field->xmlNodeForDoc(_node->doc, name));
 }

@@ -31,8 +31,8 @@ Document parse(std::string_view bytes) {
     xmlParserCtxtPtr context = xmlNewParserCtxt();
     if (!context) return nullptr;
     context->sax->internalSubset = refuseDocumentType;
-    xmlDocPtr document = xmlCtxtReadMemory(context, bytes.data(), static_cast<int>(bytes.size()),
-                                           nullptr, nullptr, parseOptions());
+    xmlDocPtr document =
+        xmlCtxtReadMemory(context, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, parseOptions());
     const bool refused = context->_private == &documentTypeSeen;
     xmlFreeParserCtxt(context);
     if (refused) {

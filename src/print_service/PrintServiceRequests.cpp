@@ -47,8 +47,8 @@ std::string PrintService_getColorSubstListData::requestElementText() const {
 
 std::string PrintService_GetJobResourceList::requestElementText() const {
     // The callers pass plain words as the resource set; it goes in as it is.
-    return R"(<GetJobResourceList xmlns="qv:vorn"><type>)" + std::to_string(type.value_or(0)) +
-           "</type><select>" + select.value_or("") + "</select></GetJobResourceList>";
+    return R"(<GetJobResourceList xmlns="qv:vorn"><type>)" + std::to_string(type.value_or(0)) + "</type><select>" +
+           select.value_or("") + "</select></GetJobResourceList>";
 }
 
 std::string PrintService_getJobResourceSetList::requestElementText() const {

@@ -18,7 +18,9 @@
 struct PrintServiceIotIdFields {
     std::optional<std::uint32_t> iotId;
     template <class Self, class Visitor>
-    static void visitFields(Self& self, Visitor& visitor) { visitor("iotId", self.iotId); }
+    static void visitFields(Self& self, Visitor& visitor) {
+        visitor("iotId", self.iotId);
+    }
 };
 
 /// Fields of the requests that carry a device number and a resource set.
@@ -36,14 +38,18 @@ struct PrintServiceIotIdResourceSetFields {
 struct PrintServiceDictFields {
     std::shared_ptr<PrintService_PropDict> dict;
     template <class Self, class Visitor>
-    static void visitFields(Self& self, Visitor& visitor) { visitor("dict", self.dict); }
+    static void visitFields(Self& self, Visitor& visitor) {
+        visitor("dict", self.dict);
+    }
 };
 
 /// Fields of the requests that carry a dictionary "initDict".
 struct PrintServiceInitDictFields {
     std::shared_ptr<PrintService_PropDict> initDict;
     template <class Self, class Visitor>
-    static void visitFields(Self& self, Visitor& visitor) { visitor("initDict", self.initDict); }
+    static void visitFields(Self& self, Visitor& visitor) {
+        visitor("initDict", self.initDict);
+    }
 };
 
 /// Fields of the requests without any.
@@ -53,12 +59,12 @@ struct PrintServiceNoFields {
 };
 
 // Each request class below answers its envelope's request element with requestElementText.
-#define PRINT_SERVICE_REQUEST(Name, Fields)                                              \
-    class Name final : public PrintServiceRecord<Name>, public Fields {                  \
-    public:                                                                              \
-        static constexpr std::string_view className = #Name;                             \
-        using Fields::visitFields;                                                       \
-        std::string requestElementText() const;                                          \
+#define PRINT_SERVICE_REQUEST(Name, Fields)                             \
+    class Name final : public PrintServiceRecord<Name>, public Fields { \
+    public:                                                             \
+        static constexpr std::string_view className = #Name;            \
+        using Fields::visitFields;                                      \
+        std::string requestElementText() const;                         \
     }
 
 PRINT_SERVICE_REQUEST(PrintService_getStackerInfoList, PrintServiceIotIdFields);
@@ -104,5 +110,7 @@ public:
     /// The request element: "ja-HJP" when the first preferred language contains "ja", else "en-US".
     std::string requestElementText() const;
     template <class Self, class Visitor>
-    static void visitFields(Self& self, Visitor& visitor) { visitor("lang", self.lang); }
+    static void visitFields(Self& self, Visitor& visitor) {
+        visitor("lang", self.lang);
+    }
 };

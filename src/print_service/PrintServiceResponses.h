@@ -56,29 +56,42 @@ struct PrintServiceResInfoFields {
 };
 
 // Each response class below is read from the Body child named ElementName.
-#define PRINT_SERVICE_RESPONSE(Name, ElementName, Fields)                               \
-    class Name final : public PrintServiceRecord<Name>, public Fields {                 \
-    public:                                                                             \
-        static constexpr std::string_view className = #Name;                            \
-        static constexpr std::string_view elementName = ElementName;                    \
-        using Fields::visitFields;                                                      \
+#define PRINT_SERVICE_RESPONSE(Name, ElementName, Fields)               \
+    class Name final : public PrintServiceRecord<Name>, public Fields { \
+    public:                                                             \
+        static constexpr std::string_view className = #Name;            \
+        static constexpr std::string_view elementName = ElementName;    \
+        using Fields::visitFields;                                      \
     }
 
-PRINT_SERVICE_RESPONSE(PrintService_getStackerInfoListResponse, "getStackerInfoListResponse", PrintServiceAryFields);
+PRINT_SERVICE_RESPONSE(PrintService_getStackerInfoListResponse, "getStackerInfoListResponse",
+                       PrintServiceAryFields);
 PRINT_SERVICE_RESPONSE(PrintService_getFeederInfoListResponse, "getFeederInfoListResponse", PrintServiceAryFields);
-PRINT_SERVICE_RESPONSE(PrintService_GetJobFolderListResponse, "GetJobFolderListResponse", PrintServiceDictResponseFields);
-PRINT_SERVICE_RESPONSE(PrintService_getPrePostDeviceResponse, "getPrePostDeviceResponse", PrintServiceDictResponseFields);
-PRINT_SERVICE_RESPONSE(PrintService_getCmsSpotGetAllListDataResponse, "getCmsSpotGetAllListDataResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getSpotColorAllInfoListDataResponse, "getSpotColorAllInfoListDataResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getColorSubstListDataResponse, "getColorSubstListDataResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_GetJobResourceSetListResponse, "GetJobResourceSetListResponse", PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_GetJobFolderListResponse, "GetJobFolderListResponse",
+                       PrintServiceDictResponseFields);
+PRINT_SERVICE_RESPONSE(PrintService_getPrePostDeviceResponse, "getPrePostDeviceResponse",
+                       PrintServiceDictResponseFields);
+PRINT_SERVICE_RESPONSE(PrintService_getCmsSpotGetAllListDataResponse, "getCmsSpotGetAllListDataResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getSpotColorAllInfoListDataResponse, "getSpotColorAllInfoListDataResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getColorSubstListDataResponse, "getColorSubstListDataResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_GetJobResourceSetListResponse, "GetJobResourceSetListResponse",
+                       PrintServiceResInfoFields);
 PRINT_SERVICE_RESPONSE(PrintService_getCalibFileListResponse, "getCalibFileListResponse", PrintServiceArryFields);
-PRINT_SERVICE_RESPONSE(PrintService_getDensityAdjustProfileListResponse, "getDensityAdjustProfileListResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getUserTrcProfileListResponse, "getUserTrcProfileListResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getOutputProfileListResponse, "getOutputProfileListResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getRGBInputProfileListResponse, "getRGBInputProfileListResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getCMYKInputProfileListResponse, "getCMYKInputProfileListResponse", PrintServiceResInfoFields);
-PRINT_SERVICE_RESPONSE(PrintService_getDeviceLinkFileListResponse, "getDeviceLinkFileListResponse", PrintServiceArryFields);
+PRINT_SERVICE_RESPONSE(PrintService_getDensityAdjustProfileListResponse, "getDensityAdjustProfileListResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getUserTrcProfileListResponse, "getUserTrcProfileListResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getOutputProfileListResponse, "getOutputProfileListResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getRGBInputProfileListResponse, "getRGBInputProfileListResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getCMYKInputProfileListResponse, "getCMYKInputProfileListResponse",
+                       PrintServiceResInfoFields);
+PRINT_SERVICE_RESPONSE(PrintService_getDeviceLinkFileListResponse, "getDeviceLinkFileListResponse",
+                       PrintServiceArryFields);
 
 #undef PRINT_SERVICE_RESPONSE
 

@@ -147,11 +147,16 @@ void PrintServiceSoap::replaceCookiesFromReply(const std::vector<std::string>& h
 
 void PrintServiceSoap::sendHTTPCallUsingBody(const std::string& body, const std::string& soapAction,
                                              PrintServiceSoapOperation& operation) {
-    PrintServiceSoapRequestSettings settings{_address,         _host,
-                                             body,             soapAction,
-                                             _defaultTimeout,  _maximumReplySize,
-                                             _allowsHTTPS,     _transfers->cookieEngine,
-                                             &_authUsername,   &_authPassword};
+    PrintServiceSoapRequestSettings settings{_address,
+                                             _host,
+                                             body,
+                                             soapAction,
+                                             _defaultTimeout,
+                                             _maximumReplySize,
+                                             _allowsHTTPS,
+                                             _transfers->cookieEngine,
+                                             &_authUsername,
+                                             &_authPassword};
     operation._urlConnection = std::make_unique<PrintServiceSoapConnection>(operation, settings);
     if (!operation._urlConnection->startIn(*_transfers)) {
         operation._urlConnection.reset();
@@ -201,6 +206,7 @@ void PrintServiceSoap::_releaseFinishedOperation(PrintServiceSoapOperation& oper
     std::erase_if(_asynchronousOperations, [&](const auto& kept) { return kept.get() == &operation; });
 }
 
-void PrintServiceSoap::operationCompletedWithResponse(PrintServiceSoapOperation&, const PrintServiceSoapResponse&) {
+void PrintServiceSoap::operationCompletedWithResponse(PrintServiceSoapOperation&,
+                                                      const PrintServiceSoapResponse&) {
     _synchronousOperationComplete = true;
 }

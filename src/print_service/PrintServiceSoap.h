@@ -63,39 +63,67 @@ public:
     // the response; the asynchronous one returns at once and reports to delegate while
     // processNetworkEvents runs.
     PrintServiceSoapResponse getStackerInfoListUsingParameters(const PrintService_getStackerInfoList& parameters);
-    void getStackerInfoListAsyncUsingParameters(const PrintService_getStackerInfoList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void getStackerInfoListAsyncUsingParameters(const PrintService_getStackerInfoList& parameters,
+                                                PrintServiceSoapResponseDelegate* delegate);
     PrintServiceSoapResponse getFeederInfoListUsingParameters(const PrintService_getFeederInfoList& parameters);
-    void getFeederInfoListAsyncUsingParameters(const PrintService_getFeederInfoList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void getFeederInfoListAsyncUsingParameters(const PrintService_getFeederInfoList& parameters,
+                                               PrintServiceSoapResponseDelegate* delegate);
     PrintServiceSoapResponse getJobFolderListUsingParameters(const PrintService_getJobFolderList& parameters);
-    void getJobFolderListAsyncUsingParameters(const PrintService_getJobFolderList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getPrePostDeviceListUsingParameters(const PrintService_getPrePostDeviceList& parameters);
-    void getPrePostDeviceListAsyncUsingParameters(const PrintService_getPrePostDeviceList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getCmsSpotGetAllListDataUsingParameters(const PrintService_getCmsSpotGetAllListData& parameters);
-    void getCmsSpotGetAllListDataAsyncUsingParameters(const PrintService_getCmsSpotGetAllListData& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getSpotColorAllInfoListDataUsingParameters(const PrintService_getSpotColorAllInfoListData& parameters);
-    void getSpotColorAllInfoListDataAsyncUsingParameters(const PrintService_getSpotColorAllInfoListData& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getColorSubstListDataUsingParameters(const PrintService_getColorSubstListData& parameters);
-    void getColorSubstListDataAsyncUsingParameters(const PrintService_getColorSubstListData& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void getJobFolderListAsyncUsingParameters(const PrintService_getJobFolderList& parameters,
+                                              PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getPrePostDeviceListUsingParameters(
+        const PrintService_getPrePostDeviceList& parameters);
+    void getPrePostDeviceListAsyncUsingParameters(const PrintService_getPrePostDeviceList& parameters,
+                                                  PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getCmsSpotGetAllListDataUsingParameters(
+        const PrintService_getCmsSpotGetAllListData& parameters);
+    void getCmsSpotGetAllListDataAsyncUsingParameters(const PrintService_getCmsSpotGetAllListData& parameters,
+                                                      PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getSpotColorAllInfoListDataUsingParameters(
+        const PrintService_getSpotColorAllInfoListData& parameters);
+    void getSpotColorAllInfoListDataAsyncUsingParameters(
+        const PrintService_getSpotColorAllInfoListData& parameters, PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getColorSubstListDataUsingParameters(
+        const PrintService_getColorSubstListData& parameters);
+    void getColorSubstListDataAsyncUsingParameters(const PrintService_getColorSubstListData& parameters,
+                                                   PrintServiceSoapResponseDelegate* delegate);
     PrintServiceSoapResponse GetJobResourceListUsingParameters(const PrintService_GetJobResourceList& parameters);
-    void GetJobResourceListAsyncUsingParameters(const PrintService_GetJobResourceList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getJobResourceSetListUsingParameters(const PrintService_getJobResourceSetList& parameters);
-    void getJobResourceSetListAsyncUsingParameters(const PrintService_getJobResourceSetList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void GetJobResourceListAsyncUsingParameters(const PrintService_GetJobResourceList& parameters,
+                                                PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getJobResourceSetListUsingParameters(
+        const PrintService_getJobResourceSetList& parameters);
+    void getJobResourceSetListAsyncUsingParameters(const PrintService_getJobResourceSetList& parameters,
+                                                   PrintServiceSoapResponseDelegate* delegate);
     PrintServiceSoapResponse getCalibFileListUsingParameters(const PrintService_getCalibFileList& parameters);
-    void getCalibFileListAsyncUsingParameters(const PrintService_getCalibFileList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getDensityAdjustProfileListUsingParameters(const PrintService_getDensityAdjustProfileList& parameters);
-    void getDensityAdjustProfileListAsyncUsingParameters(const PrintService_getDensityAdjustProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getUserTrcProfileListUsingParameters(const PrintService_getUserTrcProfileList& parameters);
-    void getUserTrcProfileListAsyncUsingParameters(const PrintService_getUserTrcProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void getCalibFileListAsyncUsingParameters(const PrintService_getCalibFileList& parameters,
+                                              PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getDensityAdjustProfileListUsingParameters(
+        const PrintService_getDensityAdjustProfileList& parameters);
+    void getDensityAdjustProfileListAsyncUsingParameters(
+        const PrintService_getDensityAdjustProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getUserTrcProfileListUsingParameters(
+        const PrintService_getUserTrcProfileList& parameters);
+    void getUserTrcProfileListAsyncUsingParameters(const PrintService_getUserTrcProfileList& parameters,
+                                                   PrintServiceSoapResponseDelegate* delegate);
     PrintServiceSoapResponse getFontListUsingParameters(const PrintService_getFontList& parameters);
-    void getFontListAsyncUsingParameters(const PrintService_getFontList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getOutputProfileListUsingParameters(const PrintService_getOutputProfileList& parameters);
-    void getOutputProfileListAsyncUsingParameters(const PrintService_getOutputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getRGBInputProfileListUsingParameters(const PrintService_getRGBInputProfileList& parameters);
-    void getRGBInputProfileListAsyncUsingParameters(const PrintService_getRGBInputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getCMYKInputProfileListUsingParameters(const PrintService_getCMYKInputProfileList& parameters);
-    void getCMYKInputProfileListAsyncUsingParameters(const PrintService_getCMYKInputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate);
-    PrintServiceSoapResponse getDeviceLinkFileListUsingParameters(const PrintService_getDeviceLinkFileList& parameters);
-    void getDeviceLinkFileListAsyncUsingParameters(const PrintService_getDeviceLinkFileList& parameters, PrintServiceSoapResponseDelegate* delegate);
+    void getFontListAsyncUsingParameters(const PrintService_getFontList& parameters,
+                                         PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getOutputProfileListUsingParameters(
+        const PrintService_getOutputProfileList& parameters);
+    void getOutputProfileListAsyncUsingParameters(const PrintService_getOutputProfileList& parameters,
+                                                  PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getRGBInputProfileListUsingParameters(
+        const PrintService_getRGBInputProfileList& parameters);
+    void getRGBInputProfileListAsyncUsingParameters(const PrintService_getRGBInputProfileList& parameters,
+                                                    PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getCMYKInputProfileListUsingParameters(
+        const PrintService_getCMYKInputProfileList& parameters);
+    void getCMYKInputProfileListAsyncUsingParameters(const PrintService_getCMYKInputProfileList& parameters,
+                                                     PrintServiceSoapResponseDelegate* delegate);
+    PrintServiceSoapResponse getDeviceLinkFileListUsingParameters(
+        const PrintService_getDeviceLinkFileList& parameters);
+    void getDeviceLinkFileListAsyncUsingParameters(const PrintService_getDeviceLinkFileList& parameters,
+                                                   PrintServiceSoapResponseDelegate* delegate);
 
     /// Builds the HTTP request of operation with body and soapAction, and starts it.
     void sendHTTPCallUsingBody(const std::string& body, const std::string& soapAction,

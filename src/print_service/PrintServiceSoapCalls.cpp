@@ -11,7 +11,8 @@ PrintServiceSoapResponse synchronousCall(PrintServiceSoap& binding, const Reques
 }
 
 template <class Operation, class Request>
-void asynchronousCall(PrintServiceSoap& binding, const Request& parameters, PrintServiceSoapResponseDelegate* delegate) {
+void asynchronousCall(PrintServiceSoap& binding, const Request& parameters,
+                      PrintServiceSoapResponseDelegate* delegate) {
     binding.performAsynchronousOperation(std::make_unique<Operation>(binding, delegate, parameters));
 }
 
@@ -23,7 +24,7 @@ PrintServiceSoapResponse PrintServiceSoap::getStackerInfoListUsingParameters(
 }
 
 void PrintServiceSoap::getStackerInfoListAsyncUsingParameters(const PrintService_getStackerInfoList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                              PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getStackerInfoList>(*this, parameters, delegate);
 }
 
@@ -33,7 +34,7 @@ PrintServiceSoapResponse PrintServiceSoap::getFeederInfoListUsingParameters(
 }
 
 void PrintServiceSoap::getFeederInfoListAsyncUsingParameters(const PrintService_getFeederInfoList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                             PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getFeederInfoList>(*this, parameters, delegate);
 }
 
@@ -43,7 +44,7 @@ PrintServiceSoapResponse PrintServiceSoap::getJobFolderListUsingParameters(
 }
 
 void PrintServiceSoap::getJobFolderListAsyncUsingParameters(const PrintService_getJobFolderList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                            PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getJobFolderList>(*this, parameters, delegate);
 }
 
@@ -52,8 +53,8 @@ PrintServiceSoapResponse PrintServiceSoap::getPrePostDeviceListUsingParameters(
     return synchronousCall<PrintServiceSoap_getPrePostDeviceList>(*this, parameters);
 }
 
-void PrintServiceSoap::getPrePostDeviceListAsyncUsingParameters(const PrintService_getPrePostDeviceList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getPrePostDeviceListAsyncUsingParameters(
+    const PrintService_getPrePostDeviceList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getPrePostDeviceList>(*this, parameters, delegate);
 }
 
@@ -62,8 +63,8 @@ PrintServiceSoapResponse PrintServiceSoap::getCmsSpotGetAllListDataUsingParamete
     return synchronousCall<PrintServiceSoap_getCmsSpotGetAllListData>(*this, parameters);
 }
 
-void PrintServiceSoap::getCmsSpotGetAllListDataAsyncUsingParameters(const PrintService_getCmsSpotGetAllListData& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getCmsSpotGetAllListDataAsyncUsingParameters(
+    const PrintService_getCmsSpotGetAllListData& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getCmsSpotGetAllListData>(*this, parameters, delegate);
 }
 
@@ -72,8 +73,8 @@ PrintServiceSoapResponse PrintServiceSoap::getSpotColorAllInfoListDataUsingParam
     return synchronousCall<PrintServiceSoap_getSpotColorAllInfoListData>(*this, parameters);
 }
 
-void PrintServiceSoap::getSpotColorAllInfoListDataAsyncUsingParameters(const PrintService_getSpotColorAllInfoListData& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getSpotColorAllInfoListDataAsyncUsingParameters(
+    const PrintService_getSpotColorAllInfoListData& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getSpotColorAllInfoListData>(*this, parameters, delegate);
 }
 
@@ -82,8 +83,8 @@ PrintServiceSoapResponse PrintServiceSoap::getColorSubstListDataUsingParameters(
     return synchronousCall<PrintServiceSoap_getColorSubstListData>(*this, parameters);
 }
 
-void PrintServiceSoap::getColorSubstListDataAsyncUsingParameters(const PrintService_getColorSubstListData& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getColorSubstListDataAsyncUsingParameters(
+    const PrintService_getColorSubstListData& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getColorSubstListData>(*this, parameters, delegate);
 }
 
@@ -93,7 +94,7 @@ PrintServiceSoapResponse PrintServiceSoap::GetJobResourceListUsingParameters(
 }
 
 void PrintServiceSoap::GetJobResourceListAsyncUsingParameters(const PrintService_GetJobResourceList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                              PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_GetJobResourceList>(*this, parameters, delegate);
 }
 
@@ -102,8 +103,8 @@ PrintServiceSoapResponse PrintServiceSoap::getJobResourceSetListUsingParameters(
     return synchronousCall<PrintServiceSoap_getJobResourceSetList>(*this, parameters);
 }
 
-void PrintServiceSoap::getJobResourceSetListAsyncUsingParameters(const PrintService_getJobResourceSetList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getJobResourceSetListAsyncUsingParameters(
+    const PrintService_getJobResourceSetList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getJobResourceSetList>(*this, parameters, delegate);
 }
 
@@ -113,7 +114,7 @@ PrintServiceSoapResponse PrintServiceSoap::getCalibFileListUsingParameters(
 }
 
 void PrintServiceSoap::getCalibFileListAsyncUsingParameters(const PrintService_getCalibFileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                            PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getCalibFileList>(*this, parameters, delegate);
 }
 
@@ -122,8 +123,8 @@ PrintServiceSoapResponse PrintServiceSoap::getDensityAdjustProfileListUsingParam
     return synchronousCall<PrintServiceSoap_getDensityAdjustProfileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getDensityAdjustProfileListAsyncUsingParameters(const PrintService_getDensityAdjustProfileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getDensityAdjustProfileListAsyncUsingParameters(
+    const PrintService_getDensityAdjustProfileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getDensityAdjustProfileList>(*this, parameters, delegate);
 }
 
@@ -132,18 +133,17 @@ PrintServiceSoapResponse PrintServiceSoap::getUserTrcProfileListUsingParameters(
     return synchronousCall<PrintServiceSoap_getUserTrcProfileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getUserTrcProfileListAsyncUsingParameters(const PrintService_getUserTrcProfileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getUserTrcProfileListAsyncUsingParameters(
+    const PrintService_getUserTrcProfileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getUserTrcProfileList>(*this, parameters, delegate);
 }
 
-PrintServiceSoapResponse PrintServiceSoap::getFontListUsingParameters(
-    const PrintService_getFontList& parameters) {
+PrintServiceSoapResponse PrintServiceSoap::getFontListUsingParameters(const PrintService_getFontList& parameters) {
     return synchronousCall<PrintServiceSoap_getFontList>(*this, parameters);
 }
 
 void PrintServiceSoap::getFontListAsyncUsingParameters(const PrintService_getFontList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+                                                       PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getFontList>(*this, parameters, delegate);
 }
 
@@ -152,8 +152,8 @@ PrintServiceSoapResponse PrintServiceSoap::getOutputProfileListUsingParameters(
     return synchronousCall<PrintServiceSoap_getOutputProfileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getOutputProfileListAsyncUsingParameters(const PrintService_getOutputProfileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getOutputProfileListAsyncUsingParameters(
+    const PrintService_getOutputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getOutputProfileList>(*this, parameters, delegate);
 }
 
@@ -162,8 +162,8 @@ PrintServiceSoapResponse PrintServiceSoap::getRGBInputProfileListUsingParameters
     return synchronousCall<PrintServiceSoap_getRGBInputProfileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getRGBInputProfileListAsyncUsingParameters(const PrintService_getRGBInputProfileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getRGBInputProfileListAsyncUsingParameters(
+    const PrintService_getRGBInputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getRGBInputProfileList>(*this, parameters, delegate);
 }
 
@@ -172,8 +172,8 @@ PrintServiceSoapResponse PrintServiceSoap::getCMYKInputProfileListUsingParameter
     return synchronousCall<PrintServiceSoap_getCMYKInputProfileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getCMYKInputProfileListAsyncUsingParameters(const PrintService_getCMYKInputProfileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getCMYKInputProfileListAsyncUsingParameters(
+    const PrintService_getCMYKInputProfileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getCMYKInputProfileList>(*this, parameters, delegate);
 }
 
@@ -182,7 +182,7 @@ PrintServiceSoapResponse PrintServiceSoap::getDeviceLinkFileListUsingParameters(
     return synchronousCall<PrintServiceSoap_getDeviceLinkFileList>(*this, parameters);
 }
 
-void PrintServiceSoap::getDeviceLinkFileListAsyncUsingParameters(const PrintService_getDeviceLinkFileList& parameters,
-        PrintServiceSoapResponseDelegate* delegate) {
+void PrintServiceSoap::getDeviceLinkFileListAsyncUsingParameters(
+    const PrintService_getDeviceLinkFileList& parameters, PrintServiceSoapResponseDelegate* delegate) {
     asynchronousCall<PrintServiceSoap_getDeviceLinkFileList>(*this, parameters, delegate);
 }

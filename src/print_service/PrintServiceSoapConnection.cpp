@@ -28,7 +28,9 @@ long timeoutMilliseconds(double seconds) {
 
 PrintServiceSoapConnection::PrintServiceSoapConnection(PrintServiceSoapOperation& operation,
                                                        const PrintServiceSoapRequestSettings& settings)
-    : _operation(operation), _easy(curl_easy_init()), _body(settings.body),
+    : _operation(operation),
+      _easy(curl_easy_init()),
+      _body(settings.body),
       _maximumReplySize(settings.maximumReplySize) {
     if (_easy) _configure(settings);
 }
@@ -121,7 +123,8 @@ PrintServiceSoapConnection* PrintServiceSoapConnection::of(CURL* easy) {
 
 // Every reply head (an interim 100, a challenge, the final one) starts with its status line;
 // the last complete head is the reply's.
-std::size_t PrintServiceSoapConnection::receiveHeader(char* data, std::size_t size, std::size_t count, void* self) {
+std::size_t PrintServiceSoapConnection::receiveHeader(char* data, std::size_t size, std::size_t count,
+                                                      void* self) {
     auto& connection = *static_cast<PrintServiceSoapConnection*>(self);
     const std::string_view line = withoutLineEnd(std::string_view(data, size * count));
     if (line.starts_with("HTTP/")) {

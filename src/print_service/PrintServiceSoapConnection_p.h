@@ -41,7 +41,8 @@ struct PrintServiceSoapRequestSettings {
 /// One HTTP exchange over libcurl; reports its events to the operation that owns it.
 class PrintServiceSoapConnection {
 public:
-    PrintServiceSoapConnection(PrintServiceSoapOperation& operation, const PrintServiceSoapRequestSettings& settings);
+    PrintServiceSoapConnection(PrintServiceSoapOperation& operation,
+                               const PrintServiceSoapRequestSettings& settings);
     ~PrintServiceSoapConnection();
     PrintServiceSoapConnection(const PrintServiceSoapConnection&) = delete;
     PrintServiceSoapConnection& operator=(const PrintServiceSoapConnection&) = delete;

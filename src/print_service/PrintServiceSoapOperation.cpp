@@ -66,7 +66,8 @@ void PrintServiceSoapOperation::connectionDidFinishLoading() {
     if (PrintServiceReplyParser::Document document = PrintServiceReplyParser::parse(*_responseData)) {
         if (xmlNode* root = xmlDocGetRootElement(document.get())) _readBodies(root);
     } else {
-        _response.error = PrintServiceSoapError{std::string(parseErrorDomain()), 1, "Errors while parsing returned XML"};
+        _response.error =
+            PrintServiceSoapError{std::string(parseErrorDomain()), 1, "Errors while parsing returned XML"};
         // The delegate hears of a malformed reply here and once more below; completion
         // handling is written to take the repeat.
         _delegate->operationCompletedWithResponse(*this, _response);
@@ -90,6 +91,7 @@ void PrintServiceSoapOperation::_readBodies(xmlNode* root) {
 // carry it, and clients that met others never read them as faults.
 std::shared_ptr<PrintServiceSerializable> PrintServiceSoapOperation::_decodeBodyPart(xmlNode* part) const {
     if (PrintServiceXml::isNamed(part, responseElementName())) return deserializeResponseNode(part);
-    if (hasPrefix(part, "soap") && PrintServiceXml::isNamed(part, "Fault")) return SOAPFault::deserializeNode(part);
+    if (hasPrefix(part, "soap") && PrintServiceXml::isNamed(part, "Fault"))
+        return SOAPFault::deserializeNode(part);
     return nullptr;
 }

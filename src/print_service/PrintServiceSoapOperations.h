@@ -87,7 +87,8 @@ using PrintServiceSoap_getOutputProfileList =
     PrintServiceSoapTypedOperation<PrintService_getOutputProfileList, PrintService_getOutputProfileListResponse,
                                    PrintServiceReplyErrorDomain::SoapResponseXML>;
 using PrintServiceSoap_getRGBInputProfileList =
-    PrintServiceSoapTypedOperation<PrintService_getRGBInputProfileList, PrintService_getRGBInputProfileListResponse,
+    PrintServiceSoapTypedOperation<PrintService_getRGBInputProfileList,
+                                   PrintService_getRGBInputProfileListResponse,
                                    PrintServiceReplyErrorDomain::SoapResponseXML>;
 using PrintServiceSoap_getCMYKInputProfileList =
     PrintServiceSoapTypedOperation<PrintService_getCMYKInputProfileList,

@@ -9,7 +9,8 @@ namespace {
 
 using PrintServiceXml::xml;
 
-void addSection(xmlNode* root, xmlNs* soap, const char* name, const PrintServiceSoap_envelope::Elements& elements) {
+void addSection(xmlNode* root, xmlNs* soap, const char* name,
+                const PrintServiceSoap_envelope::Elements& elements) {
     if (elements.empty()) return;
     xmlNode* section = xmlNewChild(root, soap, xml(name), nullptr);
     for (const auto& [elementName, object] : elements)
@@ -38,7 +39,8 @@ std::string PrintServiceSoap_envelope::serializedFormUsingHeaderElements(const E
     xmlChar* text = nullptr;
     int size = 0;
     xmlDocDumpMemory(document, &text, &size);
-    std::string serialized(text ? reinterpret_cast<const char*>(text) : "", text ? static_cast<std::size_t>(size) : 0);
+    std::string serialized(text ? reinterpret_cast<const char*>(text) : "",
+                           text ? static_cast<std::size_t>(size) : 0);
     xmlFree(text);
     xmlFreeDoc(document);
     return serialized;

@@ -10,8 +10,8 @@ class PrintService_PropKeyValue;
 
 /// One value of the print service: a string, a dictionary, an array or a key/value item.
 using PrintServiceValue =
-    std::variant<std::string, std::shared_ptr<PrintService_PropDict>,
-                 std::shared_ptr<PrintService_PropArray>, std::shared_ptr<PrintService_PropKeyValue>>;
+    std::variant<std::string, std::shared_ptr<PrintService_PropDict>, std::shared_ptr<PrintService_PropArray>,
+                 std::shared_ptr<PrintService_PropKeyValue>>;
 
 /// The string that value holds, or nullptr when it holds an object.
 inline const std::string* PrintServiceValueString(const PrintServiceValue& value) {

@@ -87,11 +87,15 @@ std::optional<PrintServiceValue> decodeObject(xmlNode* node, ValueType declared)
         if (!type || !mayNameValueType(type->view())) return std::nullopt;
     }
     switch (resolvedType(node, declared)) {
-    case ValueType::PropDict: return PrintService_PropDict::deserializeNode(node);
-    case ValueType::PropArray: return PrintService_PropArray::deserializeNode(node);
-    case ValueType::PropKeyValue: return PrintService_PropKeyValue::deserializeNode(node);
-    case ValueType::String:
-    case ValueType::None: break;
+        case ValueType::PropDict:
+            return PrintService_PropDict::deserializeNode(node);
+        case ValueType::PropArray:
+            return PrintService_PropArray::deserializeNode(node);
+        case ValueType::PropKeyValue:
+            return PrintService_PropKeyValue::deserializeNode(node);
+        case ValueType::String:
+        case ValueType::None:
+            break;
     }
     return std::nullopt;
 }

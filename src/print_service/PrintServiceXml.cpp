@@ -7,9 +7,7 @@
 namespace PrintServiceXml {
 namespace {
 
-bool isText(const xmlNode* node) {
-    return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE;
-}
+bool isText(const xmlNode* node) { return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE; }
 
 bool inNamespace(const xmlAttr* attribute, const char* href) {
     if (!href) return true;
@@ -19,8 +17,7 @@ bool inNamespace(const xmlAttr* attribute, const char* href) {
 
 const xmlAttr* findAttribute(const xmlNode* node, const char* name, const char* href) {
     for (const xmlAttr* attribute = node->properties; attribute; attribute = attribute->next)
-        if (std::strcmp(reinterpret_cast<const char*>(attribute->name), name) == 0 &&
-            inNamespace(attribute, href))
+        if (std::strcmp(reinterpret_cast<const char*>(attribute->name), name) == 0 && inNamespace(attribute, href))
             return attribute;
     return nullptr;
 }

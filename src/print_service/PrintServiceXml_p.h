@@ -53,8 +53,7 @@ xmlNs* rootNamespace(xmlDoc* document, const char* prefix);
 /// Sets the schema instance "type" attribute of node to typeName ("PrintService:PropDict").
 void setSchemaType(xmlNode* node, const char* typeName);
 /// A new element name with text as its content (escaped), in the namespace of prefix.
-xmlNode* textElement(xmlDoc* document, std::string_view name, std::string_view text,
-                     const char* prefix);
+xmlNode* textElement(xmlDoc* document, std::string_view name, std::string_view text, const char* prefix);
 /// xmlChar view of text.
 inline const xmlChar* xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
 

@@ -17,10 +17,14 @@ bool inNamespace(const xmlNode* node, const char* href) {
 
 void readSoap11(SOAPFault& fault, xmlNode* node) {
     PrintServiceXml::forEachChildElement(node, [&](xmlNode* child) {
-        if (isNamed(child, "faultcode")) fault.faultcode = textContent(child).str();
-        else if (isNamed(child, "faultstring")) fault.faultstring = textContent(child).str();
-        else if (isNamed(child, "faultactor")) fault.faultactor = textContent(child).str();
-        else if (isNamed(child, "detail")) fault.detail = textContent(child).str();
+        if (isNamed(child, "faultcode"))
+            fault.faultcode = textContent(child).str();
+        else if (isNamed(child, "faultstring"))
+            fault.faultstring = textContent(child).str();
+        else if (isNamed(child, "faultactor"))
+            fault.faultactor = textContent(child).str();
+        else if (isNamed(child, "detail"))
+            fault.detail = textContent(child).str();
     });
 }
 
@@ -32,10 +36,14 @@ std::string firstValueText(xmlNode* code) {
 
 void readSoap12(SOAPFault& fault, xmlNode* node) {
     PrintServiceXml::forEachChildElement(node, [&](xmlNode* child) {
-        if (isNamed(child, "Code")) fault.faultcode = firstValueText(child);
-        else if (isNamed(child, "Reason")) fault.faultstring = textContent(child).str();
-        else if (isNamed(child, "Node")) fault.faultactor = textContent(child).str();
-        else if (isNamed(child, "Detail")) fault.detail = textContent(child).str();
+        if (isNamed(child, "Code"))
+            fault.faultcode = firstValueText(child);
+        else if (isNamed(child, "Reason"))
+            fault.faultstring = textContent(child).str();
+        else if (isNamed(child, "Node"))
+            fault.faultactor = textContent(child).str();
+        else if (isNamed(child, "Detail"))
+            fault.detail = textContent(child).str();
     });
 }
 

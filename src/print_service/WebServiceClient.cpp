@@ -1,5 +1,7 @@
 #include "print_service/WebServiceClient.h"
 
+#include <cctype>
+
 #include "core/Diagnostics.h"
 #include "core/FileUtil.h"
 #include "print_service/PrintService.h"
@@ -23,7 +25,8 @@ auto statusOKSilently = [](const auto& response) { return statusIsOK(response.st
 template <class Field>
 auto recordColumns(Field field, std::vector<std::string_view> keys) {
     return [field, keys](const auto& response, ServerRowList& rows) {
-        forEachRecord(response.*field, [&](const PrintService_PropDict& record) { rows.push_back(columns(record, keys)); });
+        forEachRecord(response.*field,
+                      [&](const PrintService_PropDict& record) { rows.push_back(columns(record, keys)); });
     };
 }
 
@@ -53,7 +56,8 @@ auto recordColumnsWithTonerTarget(Field field, std::vector<std::string_view> key
 auto profileColumnsOfKind(int kind) {
     return [kind](const auto& response, ServerRowList& rows) {
         forEachRecord(response.resInfo, [&](const PrintService_PropDict& record) {
-            if (isProfileOfKind(record, kind)) rows.push_back(columns(record, {"Name", "Comment", "UpdatedDateTime"}));
+            if (isProfileOfKind(record, kind))
+                rows.push_back(columns(record, {"Name", "Comment", "UpdatedDateTime"}));
         });
     };
 }
@@ -61,7 +65,8 @@ auto profileColumnsOfKind(int kind) {
 // [value, key] rows of each record's items keyed key.
 auto keyValueRecords(std::string_view key) {
     return [key](const auto& response, ServerRowList& rows) {
-        forEachRecord(response.ary, [&](const PrintService_PropDict& record) { appendKeyValueRows(record, key, rows); });
+        forEachRecord(response.ary,
+                      [&](const PrintService_PropDict& record) { appendKeyValueRows(record, key, rows); });
     };
 }
 
@@ -87,6 +92,12 @@ std::optional<ServerRowList> WebServiceClient::_rows(std::string_view address, C
                                                      Accept accept, Collect collect, std::size_t capacity) {
     _lastResponseError.reset();
     if (address.empty() || !isCommunicationPossible()) return std::nullopt;
+    if (!isHostAddress(address)) {
+        _lastResponseError = PrintServiceSoapError{PrintServiceSoapError::kTransportDomain, 3,
+                                                   "\"" + std::string(address) + "\" is no host name or address"};
+        Diagnostics::log("###Response: " + _lastResponseError->description());
+        return ServerRowList();
+    }
     const std::string endpoint = "http://" + convertUrlAddress(address) + ":" + std::to_string(_port);
     std::unique_ptr<PrintServiceSoap> binding = PrintService::PrintServiceSoap(endpoint);
     binding->setLogXMLInOut(true);
@@ -106,31 +117,32 @@ std::optional<ServerRowList> WebServiceClient::_rows(std::string_view address, C
 }
 
 std::optional<ServerRowList> WebServiceClient::getStackerInfoList(std::string_view address) {
-    return _rows<PrintService_getStackerInfoListResponse>(address, &PrintServiceSoap::getStackerInfoListUsingParameters,
-                                                          PrintService_getStackerInfoList(), statusOK,
-                                                          keyValueRecords("Type"), kDeviceRowCapacity);
+    return _rows<PrintService_getStackerInfoListResponse>(
+        address, &PrintServiceSoap::getStackerInfoListUsingParameters, PrintService_getStackerInfoList(), statusOK,
+        keyValueRecords("Type"), kDeviceRowCapacity);
 }
 
 std::optional<ServerRowList> WebServiceClient::getFeederInfoList(std::string_view address) {
-    return _rows<PrintService_getFeederInfoListResponse>(address, &PrintServiceSoap::getFeederInfoListUsingParameters,
-                                                         PrintService_getFeederInfoList(), statusOKSilently,
-                                                         keyValueRecords("Number"), kDeviceRowCapacity);
+    return _rows<PrintService_getFeederInfoListResponse>(
+        address, &PrintServiceSoap::getFeederInfoListUsingParameters, PrintService_getFeederInfoList(),
+        statusOKSilently, keyValueRecords("Number"), kDeviceRowCapacity);
 }
 
 std::optional<ServerRowList> WebServiceClient::getDeviceList(std::string_view address) {
     auto collect = [](const PrintService_getPrePostDeviceResponse& response, ServerRowList& rows) {
         if (response.dict) appendKeyValueRows(*response.dict, std::nullopt, rows);
     };
-    return _rows<PrintService_getPrePostDeviceResponse>(address, &PrintServiceSoap::getPrePostDeviceListUsingParameters,
-                                                        PrintService_getPrePostDeviceList(), statusOK, collect,
-                                                        kDeviceRowCapacity);
+    return _rows<PrintService_getPrePostDeviceResponse>(
+        address, &PrintServiceSoap::getPrePostDeviceListUsingParameters, PrintService_getPrePostDeviceList(),
+        statusOK, collect, kDeviceRowCapacity);
 }
 
 std::optional<ServerRowList> WebServiceClient::getPrePostDeviceList(std::string_view address) {
     auto collect = [](const PrintService_getPrePostDeviceResponse& response, ServerRowList& rows) {
         if (response.dict) appendCustomPaperRows(*response.dict, rows);
     };
-    return _rows<PrintService_getPrePostDeviceResponse>(address, &PrintServiceSoap::getPrePostDeviceListUsingParameters,
+    return _rows<PrintService_getPrePostDeviceResponse>(address,
+                                                        &PrintServiceSoap::getPrePostDeviceListUsingParameters,
                                                         PrintService_getPrePostDeviceList(), statusOK, collect);
 }
 
@@ -138,31 +150,40 @@ std::optional<ServerRowList> WebServiceClient::getJobFolderList(std::string_view
     auto collect = [](const PrintService_GetJobFolderListResponse& response, ServerRowList& rows) {
         if (response.dict) appendJobFolderRows(*response.dict, rows);
     };
-    return _rows<PrintService_GetJobFolderListResponse>(address, &PrintServiceSoap::getJobFolderListUsingParameters,
+    return _rows<PrintService_GetJobFolderListResponse>(address,
+                                                        &PrintServiceSoap::getJobFolderListUsingParameters,
                                                         PrintService_getJobFolderList(), statusOK, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::getCmsSpotGetAllListData(std::string_view address) {
-    auto collect = filledRecordColumns(&PrintService_getCmsSpotGetAllListDataResponse::resInfo,
-                                       {"SpotColorShowCategory", "Name", "inktype", "SpotColorLabL", "SpotColorLabA",
-                                        "SpotColorLabB", "SpotColorC", "SpotColorM", "SpotColorY", "SpotColorK"});
+    auto collect =
+        filledRecordColumns(&PrintService_getCmsSpotGetAllListDataResponse::resInfo,
+                            {"SpotColorShowCategory", "Name", "inktype", "SpotColorLabL", "SpotColorLabA",
+                             "SpotColorLabB", "SpotColorC", "SpotColorM", "SpotColorY", "SpotColorK"});
     return _rows<PrintService_getCmsSpotGetAllListDataResponse>(
         address, &PrintServiceSoap::getCmsSpotGetAllListDataUsingParameters,
-        withDictionaryItem<PrintService_getCmsSpotGetAllListData>(&PrintService_getCmsSpotGetAllListData::dict, "iotId"), statusOK, collect);
+        withDictionaryItem<PrintService_getCmsSpotGetAllListData>(&PrintService_getCmsSpotGetAllListData::dict,
+                                                                  "iotId"),
+        statusOK, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::getSpotColorAllInfoListData(std::string_view address) {
-    auto collect = filledRecordColumns(&PrintService_getSpotColorAllInfoListDataResponse::resInfo, {"Name", "SpotType"});
+    auto collect =
+        filledRecordColumns(&PrintService_getSpotColorAllInfoListDataResponse::resInfo, {"Name", "SpotType"});
     return _rows<PrintService_getSpotColorAllInfoListDataResponse>(
         address, &PrintServiceSoap::getSpotColorAllInfoListDataUsingParameters,
-        withDictionaryItem<PrintService_getSpotColorAllInfoListData>(&PrintService_getSpotColorAllInfoListData::dict, "iotId"), statusOKSilently, collect);
+        withDictionaryItem<PrintService_getSpotColorAllInfoListData>(
+            &PrintService_getSpotColorAllInfoListData::dict, "iotId"),
+        statusOKSilently, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::getColorSubstList(std::string_view address) {
-    auto collect = recordColumns(&PrintService_getColorSubstListDataResponse::resInfo, {"Name", "Comment", "ModifyTime"});
+    auto collect =
+        recordColumns(&PrintService_getColorSubstListDataResponse::resInfo, {"Name", "Comment", "ModifyTime"});
     return _rows<PrintService_getColorSubstListDataResponse>(
         address, &PrintServiceSoap::getColorSubstListDataUsingParameters,
-        withDictionaryItem<PrintService_getColorSubstListData>(&PrintService_getColorSubstListData::dict, "IotId"), statusOK, collect);
+        withDictionaryItem<PrintService_getColorSubstListData>(&PrintService_getColorSubstListData::dict, "IotId"),
+        statusOK, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::GetJobResourceList(std::string_view address, int resourceType) {
@@ -175,7 +196,8 @@ std::optional<ServerRowList> WebServiceClient::GetJobResourceListWithResourceSet
     PrintService_GetJobResourceList request;
     request.type = resourceType;
     request.select = resourceset;
-    return _rows<PrintService_GetJobResourceListResponse>(address, &PrintServiceSoap::GetJobResourceListUsingParameters,
+    return _rows<PrintService_GetJobResourceListResponse>(address,
+                                                          &PrintServiceSoap::GetJobResourceListUsingParameters,
                                                           request, jobResourceStatus, jobResourceColumns);
 }
 
@@ -184,7 +206,9 @@ std::optional<ServerRowList> WebServiceClient::getJobResourceSetList(std::string
                                                 {"JobRecSetName", "JobRecSetMemo", "JobResourceSetDateTime"});
     return _rows<PrintService_GetJobResourceSetListResponse>(
         address, &PrintServiceSoap::getJobResourceSetListUsingParameters,
-        withDictionaryItem<PrintService_getJobResourceSetList>(&PrintService_getJobResourceSetList::initDict, "IotId"), statusOK, collect);
+        withDictionaryItem<PrintService_getJobResourceSetList>(&PrintService_getJobResourceSetList::initDict,
+                                                               "IotId"),
+        statusOK, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::getCalibFileList(std::string_view address) {
@@ -192,7 +216,8 @@ std::optional<ServerRowList> WebServiceClient::getCalibFileList(std::string_view
                                                 {"FileName", "Comment", "UpdatedDateTime"});
     return _rows<PrintService_getCalibFileListResponse>(
         address, &PrintServiceSoap::getCalibFileListUsingParameters,
-        withDictionaryItem<PrintService_getCalibFileList>(&PrintService_getCalibFileList::initDict, "IotId"), statusOK, collect);
+        withDictionaryItem<PrintService_getCalibFileList>(&PrintService_getCalibFileList::initDict, "IotId"),
+        statusOK, collect);
 }
 
 std::optional<ServerRowList> WebServiceClient::getDensityAdjustProfileList(std::string_view address) {
@@ -212,7 +237,9 @@ std::optional<ServerRowList> WebServiceClient::getUserTrcProfileList(std::string
 }
 
 std::optional<ServerRowList> WebServiceClient::getFontList(std::string_view address) {
-    auto accept = [](const PrintService_getFontListResponse& response) { return statusIsOK(response.result, true); };
+    auto accept = [](const PrintService_getFontListResponse& response) {
+        return statusIsOK(response.result, true);
+    };
     auto collect = [](const PrintService_getFontListResponse& response, ServerRowList& rows) {
         recordColumns(&PrintService_getFontListResponse::stdFontList, {"DisplayName", "FontName"})(response, rows);
         recordColumns(&PrintService_getFontListResponse::optFontList, {"DisplayName", "FontName"})(response, rows);
@@ -242,10 +269,13 @@ std::optional<ServerRowList> WebServiceClient::getCMYKInputProfileFileList(std::
 }
 
 std::optional<ServerRowList> WebServiceClient::getDeviceLinkFileList(std::string_view address) {
-    auto collect = recordColumns(&PrintService_getDeviceLinkFileListResponse::arry, {"Name", "Comment", "ModifyTime"});
+    auto collect =
+        recordColumns(&PrintService_getDeviceLinkFileListResponse::arry, {"Name", "Comment", "ModifyTime"});
     return _rows<PrintService_getDeviceLinkFileListResponse>(
         address, &PrintServiceSoap::getDeviceLinkFileListUsingParameters,
-        withDictionaryItem<PrintService_getDeviceLinkFileList>(&PrintService_getDeviceLinkFileList::initDict, "IotId"), statusOKSilently, collect);
+        withDictionaryItem<PrintService_getDeviceLinkFileList>(&PrintService_getDeviceLinkFileList::initDict,
+                                                               "IotId"),
+        statusOKSilently, collect);
 }
 
 // The print server is not contacted while printing from the readers that the exclusion
@@ -254,6 +284,16 @@ bool WebServiceClient::isCommunicationPossible() {
     std::optional<std::string> name = FileUtil::readAll("/proc/self/comm");
     if (!name) return true;
     return name->find("Adobe Reader") == std::string::npos && name->find("Acrobat") == std::string::npos;
+}
+
+// Anything else ("/", "@", "#", blanks) would point the endpoint somewhere other than the host.
+bool WebServiceClient::isHostAddress(std::string_view address) {
+    constexpr std::string_view marks = ".-_:%[]";
+    for (char character : address)
+        if (!std::isalnum(static_cast<unsigned char>(character)) &&
+            marks.find(character) == std::string_view::npos)
+            return false;
+    return !address.empty();
 }
 
 std::string WebServiceClient::convertUrlAddress(std::string_view address) {

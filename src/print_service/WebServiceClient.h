@@ -17,7 +17,8 @@ using ServerRowList = std::vector<ServerRow>;
 /// Fetches the print server's resource lists as rows of strings. Each list method makes one
 /// synchronous call to the printer's host (a host name, IPv4 or IPv6 literal) and answers
 /// nothing when the call cannot be made (no address, a host application that must not
-/// contact the server), an empty list when the reply cannot be used, else the rows.
+/// contact the server), an empty list when the reply cannot be used (or the address holds
+/// characters no host has), else the rows.
 class WebServiceClient {
 public:
     /// The print server's port on the printer's host.
@@ -76,6 +77,9 @@ public:
     /// Whether this program may contact the print server: false when its name contains
     /// "Adobe Reader" or "Acrobat", true otherwise (and when the name cannot be read).
     static bool isCommunicationPossible();
+    /// Whether address holds only letters, digits and the marks of host names and IPv4 or
+    /// IPv6 literals with a zone (".-_:%[]"); false for "".
+    static bool isHostAddress(std::string_view address);
     /// address as the host of a URL: an IPv6 literal (it contains ":") in brackets with its
     /// zone's "%" written "%25"; a host name or IPv4 address unchanged.
     static std::string convertUrlAddress(std::string_view address);

@@ -117,7 +117,8 @@ void appendTonerTargets(const PrintService_PropDict& record, ServerRow& row) {
 bool isProfileOfKind(const PrintService_PropDict& record, int kind) {
     std::string type;
     for (const PrintServiceValue& item : record.item)
-        if (const auto* keyValue = keyedItem(item); keyValue && *keyValue->key == "Type") type = valueText(*keyValue);
+        if (const auto* keyValue = keyedItem(item); keyValue && *keyValue->key == "Type")
+            type = valueText(*keyValue);
     return (kind == 0 && type == "Colorimetry") || (kind == 1 && type == "ICC");
 }
 
@@ -152,7 +153,8 @@ void appendJobFolderRows(const PrintService_PropDict& dictionary, ServerRowList&
         const auto* keyValue = keyedItem(item);
         if (!keyValue || *keyValue->key != "FolderArray") continue;
         rows.push_back({BSLocalizedString("#共通"), ""});
-        const auto* folders = keyValue->val ? PrintServiceValueObject<PrintService_PropArray>(*keyValue->val) : nullptr;
+        const auto* folders =
+            keyValue->val ? PrintServiceValueObject<PrintService_PropArray>(*keyValue->val) : nullptr;
         if (!folders) continue;
         for (const PrintServiceValue& folder : folders->item) appendFolderRows(folder, rows);
     }

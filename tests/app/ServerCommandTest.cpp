@@ -36,14 +36,15 @@ TEST(ServerCommand, OptionsReachTheRequestAndTheLanguageTheSharedFolder) {
     LoopbackHttpServer server({CannedReply::soap(replyFixture("job_resources.xml")),
                                CannedReply::soap(replyFixture("job_folders.xml")),
                                CannedReply::soap(replyFixture("output_profiles.xml"))});
-    auto resources = runCommand({"server", "job-resources", "--host", hostOf(server), "--type", "4",
-                                 "--resource-set", "Coated"});
+    auto resources = runCommand(
+        {"server", "job-resources", "--host", hostOf(server), "--type", "4", "--resource-set", "Coated"});
     EXPECT_EQ(resources.exitCode, 0) << resources.err;
     EXPECT_EQ(resources.out, "Booklet A4\tsaddle stitch\t2023/06/01 10:00:00\nFlyer\t2023/06/02 11:30:00\n");
     auto folders = runCommand({"--lang", "de", "server", "job-folders", "--host", hostOf(server)});
     EXPECT_EQ(folders.out, "Gemeinsam\t\nHot Folder A\tHot Folder A\nProofs\tProofs\n");
     auto profiles = runCommand({"server", "output-profiles", "--kind", "1", "--host", hostOf(server)});
-    EXPECT_EQ(profiles.out, "Coated FOGRA39\tISO coated\t2022/11/30 12:00:00\nUncoated FOGRA29\t\t2022/11/30 12:00:00\n");
+    EXPECT_EQ(profiles.out,
+              "Coated FOGRA39\tISO coated\t2022/11/30 12:00:00\nUncoated FOGRA29\t\t2022/11/30 12:00:00\n");
     ASSERT_EQ(server.requests().size(), 3u);
     EXPECT_NE(server.requests()[0].body.find("<type>4</type><select>Coated</select>"), std::string::npos);
 }
@@ -88,6 +89,7 @@ TEST(ServerCommand, BadListOptionOrMissingHostExitsTwo) {
     EXPECT_EQ(runCommand({"server", "job-resources", "--host", "press", "--type", "x"}).exitCode, 2);
     EXPECT_EQ(runCommand({"server", "fonts", "--host", "press:99999"}).exitCode, 2);
     EXPECT_EQ(runCommand({"server", "fonts", "--host", "[fe80::1"}).exitCode, 2);
+    EXPECT_EQ(runCommand({"server", "fonts", "--host", "press/other"}).exitCode, 2);
     EXPECT_EQ(runCommand({"server", "fonts", "extra", "--host", "press"}).exitCode, 2);
     EXPECT_EQ(runCommand({"--format", "lp", "server", "fonts", "--host", "press"}).exitCode, 2);
 }

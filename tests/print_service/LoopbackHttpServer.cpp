@@ -48,7 +48,8 @@ bool waitReadable(int socket, int milliseconds) {
 
 std::size_t contentLength(const std::vector<std::string>& headerLines) {
     for (const std::string& line : headerLines)
-        if (::strncasecmp(line.c_str(), "Content-Length:", 15) == 0) return std::strtoul(line.c_str() + 15, nullptr, 10);
+        if (::strncasecmp(line.c_str(), "Content-Length:", 15) == 0)
+            return std::strtoul(line.c_str() + 15, nullptr, 10);
     return 0;
 }
 
@@ -56,8 +57,10 @@ void splitHead(const std::string& head, RecordedRequest& request) {
     std::size_t start = 0;
     for (std::size_t end; (end = head.find("\r\n", start)) != std::string::npos; start = end + 2) {
         std::string line = head.substr(start, end - start);
-        if (request.requestLine.empty()) request.requestLine = line;
-        else request.headerLines.push_back(line);
+        if (request.requestLine.empty())
+            request.requestLine = line;
+        else
+            request.headerLines.push_back(line);
     }
 }
 
@@ -97,7 +100,8 @@ LoopbackHttpServer::LoopbackHttpServer(std::vector<CannedReply> script, std::chr
                                        LoopbackFamily family)
     : _family(family), _deadline(std::chrono::steady_clock::now() + lifetime) {
     _listener = listenOnLoopback(family, _port);
-    if (_listener >= 0) _thread = std::thread([this, script = std::move(script)]() mutable { _serve(std::move(script)); });
+    if (_listener >= 0)
+        _thread = std::thread([this, script = std::move(script)]() mutable { _serve(std::move(script)); });
 }
 
 LoopbackHttpServer::~LoopbackHttpServer() {
@@ -106,7 +110,8 @@ LoopbackHttpServer::~LoopbackHttpServer() {
 }
 
 std::string LoopbackHttpServer::address() const {
-    return std::string(_family == LoopbackFamily::IPv6 ? "http://[::1]:" : "http://127.0.0.1:") + std::to_string(_port);
+    return std::string(_family == LoopbackFamily::IPv6 ? "http://[::1]:" : "http://127.0.0.1:") +
+           std::to_string(_port);
 }
 
 std::vector<RecordedRequest> LoopbackHttpServer::requests() const {
@@ -139,7 +144,8 @@ void LoopbackHttpServer::_serve(std::vector<CannedReply> script) {
 
 int LoopbackHttpServer::_accept() {
     while (!_shouldStop())
-        if (waitReadable(_listener, kSliceMilliseconds)) return ::accept4(_listener, nullptr, nullptr, SOCK_CLOEXEC);
+        if (waitReadable(_listener, kSliceMilliseconds))
+            return ::accept4(_listener, nullptr, nullptr, SOCK_CLOEXEC);
     return -1;
 }
 

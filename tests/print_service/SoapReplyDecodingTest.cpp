@@ -23,10 +23,11 @@ PrintServiceSoapResponse decoded(const std::string& reply) {
 }
 
 // The dictionary of a pre/post device reply whose dict holds items.
-std::shared_ptr<const PrintService_PropDict> dictionaryOf(const std::string& items, const std::string& dictAttributes = "") {
-    auto response = decoded<PrintServiceSoap_getPrePostDeviceList>(soapReply(
-        R"(<getPrePostDeviceResponse xmlns="qv:vorn" xmlns:q="qv:vorn"><dict)" + dictAttributes + ">" + items +
-        "</dict><status>OK</status></getPrePostDeviceResponse>"));
+std::shared_ptr<const PrintService_PropDict> dictionaryOf(const std::string& items,
+                                                          const std::string& dictAttributes = "") {
+    auto response = decoded<PrintServiceSoap_getPrePostDeviceList>(
+        soapReply(R"(<getPrePostDeviceResponse xmlns="qv:vorn" xmlns:q="qv:vorn"><dict)" + dictAttributes + ">" +
+                  items + "</dict><status>OK</status></getPrePostDeviceResponse>"));
     auto parts = response.bodyPartsOfType<PrintService_getPrePostDeviceResponse>();
     return parts.size() == 1 ? parts[0]->dict : nullptr;
 }
@@ -42,13 +43,12 @@ std::string text(const PrintService_PropKeyValue& item) {
 }  // namespace
 
 TEST(PrintServiceReplyDecoding, ScalarValuesArriveAsTheirTextWhateverTheirSchemaType) {
-    auto dictionary = dictionaryOf(
-        R"(<item key="a"><val xsi:type="xsd:string">ABC</val></item>)"
-        R"(<item key="b"><val xsi:type="xsd:int">3</val></item>)"
-        R"(<item key="c"><val>plain &amp; simple</val></item>)"
-        R"(<item key="d"><val/></item>)"
-        R"(<item key="e"><val xsi:type="undeclared:int">7</val></item>)"
-        R"(<item key="f"><val xsi:type="xsd:boolean">true</val></item>)");
+    auto dictionary = dictionaryOf(R"(<item key="a"><val xsi:type="xsd:string">ABC</val></item>)"
+                                   R"(<item key="b"><val xsi:type="xsd:int">3</val></item>)"
+                                   R"(<item key="c"><val>plain &amp; simple</val></item>)"
+                                   R"(<item key="d"><val/></item>)"
+                                   R"(<item key="e"><val xsi:type="undeclared:int">7</val></item>)"
+                                   R"(<item key="f"><val xsi:type="xsd:boolean">true</val></item>)");
     ASSERT_TRUE(dictionary);
     ASSERT_EQ(dictionary->item.size(), 6u);
     EXPECT_EQ(text(keyValue(*dictionary, 0)), "ABC");
@@ -113,8 +113,9 @@ TEST(PrintServiceReplyDecoding, DictionaryKeepsItemOrderAndItsCount) {
 
 TEST(PrintServiceReplyDecoding, ResultNamesAreMatchedExactly) {
     auto statusOf = [](const std::string& status) {
-        auto response = decoded<PrintServiceSoap_getStackerInfoList>(soapReply(
-            R"(<getStackerInfoListResponse xmlns="qv:vorn"><status>)" + status + "</status></getStackerInfoListResponse>"));
+        auto response = decoded<PrintServiceSoap_getStackerInfoList>(
+            soapReply(R"(<getStackerInfoListResponse xmlns="qv:vorn"><status>)" + status +
+                      "</status></getStackerInfoListResponse>"));
         auto parts = response.bodyPartsOfType<PrintService_getStackerInfoListResponse>();
         return parts.empty() ? -1 : static_cast<int>(parts[0]->status);
     };
@@ -145,9 +146,9 @@ TEST(PrintServiceReplyDecoding, JobResourceVerdictsAreBooleanAndNumber) {
 }
 
 TEST(PrintServiceReplyDecoding, ListFieldTypedAsAnotherValueIsLeftAbsent) {
-    auto response = decoded<PrintServiceSoap_getStackerInfoList>(soapReply(
-        R"(<getStackerInfoListResponse xmlns="qv:vorn" xmlns:q="qv:vorn"><ary xsi:type="q:PropDict"/>)"
-        R"(<status>OK</status></getStackerInfoListResponse>)"));
+    auto response = decoded<PrintServiceSoap_getStackerInfoList>(
+        soapReply(R"(<getStackerInfoListResponse xmlns="qv:vorn" xmlns:q="qv:vorn"><ary xsi:type="q:PropDict"/>)"
+                  R"(<status>OK</status></getStackerInfoListResponse>)"));
     auto parts = response.bodyPartsOfType<PrintService_getStackerInfoListResponse>();
     ASSERT_EQ(parts.size(), 1u);
     EXPECT_FALSE(parts[0]->ary);
@@ -173,7 +174,9 @@ TEST(PrintServiceReplyDecoding, BodyPartsComeFromTheLastBodyInDocumentOrder) {
 TEST(PrintServiceReplyDecoding, MalformedReplyIsReportedTwiceAndTolerated) {
     class Counting : public PrintServiceSoapResponseDelegate {
     public:
-        void operationCompletedWithResponse(PrintServiceSoapOperation&, const PrintServiceSoapResponse&) override { ++calls; }
+        void operationCompletedWithResponse(PrintServiceSoapOperation&, const PrintServiceSoapResponse&) override {
+            ++calls;
+        }
         int calls = 0;
     } delegate;
     PrintServiceSoap binding("http://127.0.0.1:9");

@@ -51,7 +51,8 @@ std::vector<OperationCall> allOperations() {
         {"getColorSubstListData", [](auto& b) { return b.getColorSubstListDataUsingParameters({}); },
          R"(<getColorSubstListData xmlns="qv:vorn"><dict d="0"><item key="IotId"><val xsi:type="xsd:int">1</val>)"
          R"(</item></dict></getColorSubstListData>)"},
-        {"GetJobResourceList", [jobResources](auto& b) { return b.GetJobResourceListUsingParameters(jobResources); },
+        {"GetJobResourceList",
+         [jobResources](auto& b) { return b.GetJobResourceListUsingParameters(jobResources); },
          R"(<GetJobResourceList xmlns="qv:vorn"><type>3</type><select>SYSTEM_DEFAULT</select></GetJobResourceList>)"},
         {"getJobResourceSetList", [](auto& b) { return b.getJobResourceSetListUsingParameters({}); },
          R"(<GetJobResourceSetList xmlns="qv:vorn"><type>0</type></GetJobResourceSetList>)"},

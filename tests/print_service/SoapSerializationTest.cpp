@@ -30,7 +30,7 @@ std::string bodyOf(const std::string& envelope) {
     const std::size_t start = envelope.find("<s:Body>");
     const std::size_t end = envelope.find("</s:Body>");
     return start == std::string::npos || end == std::string::npos ? envelope
-                                                                   : envelope.substr(start + 8, end - start - 8);
+                                                                  : envelope.substr(start + 8, end - start - 8);
 }
 
 }  // namespace
@@ -62,14 +62,15 @@ TEST(PrintServiceSerialization, ValueTypesWriteTypeKeyCountAndItemsInOrder) {
     request.initDict->addItem(item("List", nested));
     EXPECT_EQ(request.initDict->item.size(), 2u);
     EXPECT_EQ(nested->item.size(), 1u);
-    const std::string body = bodyOf(
-        PrintServiceSoap_envelope::sharedInstance().serializedFormUsingHeaderElements({}, {{"getCalibFileList", &request}}));
-    EXPECT_EQ(body,
-              R"(<PrintService:getCalibFileList><PrintService:initDict xsi:type="PrintService:PropDict" d="2">)"
-              R"(<PrintService:item xsi:type="PrintService:PropKeyValue" key="IotId"><PrintService:val>1</PrintService:val>)"
-              R"(</PrintService:item><PrintService:item xsi:type="PrintService:PropKeyValue" key="List">)"
-              R"(<PrintService:val xsi:type="PrintService:PropArray"><PrintService:item>x &lt; y</PrintService:item>)"
-              R"(</PrintService:val></PrintService:item></PrintService:initDict></PrintService:getCalibFileList>)");
+    const std::string body = bodyOf(PrintServiceSoap_envelope::sharedInstance().serializedFormUsingHeaderElements(
+        {}, {{"getCalibFileList", &request}}));
+    EXPECT_EQ(
+        body,
+        R"(<PrintService:getCalibFileList><PrintService:initDict xsi:type="PrintService:PropDict" d="2">)"
+        R"(<PrintService:item xsi:type="PrintService:PropKeyValue" key="IotId"><PrintService:val>1</PrintService:val>)"
+        R"(</PrintService:item><PrintService:item xsi:type="PrintService:PropKeyValue" key="List">)"
+        R"(<PrintService:val xsi:type="PrintService:PropArray"><PrintService:item>x &lt; y</PrintService:item>)"
+        R"(</PrintService:val></PrintService:item></PrintService:initDict></PrintService:getCalibFileList>)");
 }
 
 TEST(PrintServiceSerialization, WrittenResponseReadsBackAsItWas) {
@@ -126,8 +127,9 @@ TEST(PrintServiceSerialization, SimpleFaultStringDropsExceptionNameAndStack) {
     SOAPFault fault;
     fault.faultstring = "System.Web.Services.Protocols.SoapException: Queue held\n   at Press.Queue()\n   at X";
     EXPECT_EQ(fault.simpleFaultString(), "Queue held");
-    fault.faultstring = "System.Web.Services.Protocols.SoapException: System.Web.Services.Protocols.SoapException: "
-                        "twice\nno trace";
+    fault.faultstring =
+        "System.Web.Services.Protocols.SoapException: System.Web.Services.Protocols.SoapException: "
+        "twice\nno trace";
     EXPECT_EQ(fault.simpleFaultString(), "twice\nno trace");
 }
 

@@ -40,7 +40,8 @@ std::optional<Rows> rowsFor(const std::string& reply, Method method) {
 class LogLines {
 public:
     LogLines() {
-        ComQuorvantVelmar_Plugin::Diagnostics::setObserver([this](std::string_view line) { lines.emplace_back(line); });
+        ComQuorvantVelmar_Plugin::Diagnostics::setObserver(
+            [this](std::string_view line) { lines.emplace_back(line); });
     }
     ~LogLines() { ComQuorvantVelmar_Plugin::Diagnostics::setObserver({}); }
     bool contains(std::string_view line) const {
@@ -78,7 +79,8 @@ TEST(WebServiceClient, DeviceListIsEveryPlainItemOfTheDictionary) {
 }
 
 TEST(WebServiceClient, CustomPaperRowsUseTheLastIndexSeen) {
-    auto rows = rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getPrePostDeviceList(a); });
+    auto rows =
+        rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getPrePostDeviceList(a); });
     EXPECT_EQ(rows, (Rows{{"3-Thick", "Custom_Off_Uncoated_Off_None_3"},
                           {"7-Coated Gloss", "Custom_Off_Uncoated_Off_None_7"},
                           {"7-Late", "Custom_Off_Uncoated_Off_None_7"}}));
@@ -92,52 +94,63 @@ TEST(WebServiceClient, JobFoldersStartWithTheLocalizedSharedFolder) {
     EXPECT_EQ(rows, (Rows{{"Gemeinsam", ""}, {"Hot Folder A", "Hot Folder A"}, {"Proofs", "Proofs"}}));
 
     PreferredLanguages::setFirst("en");
-    const std::string empty = soapReply(R"(<GetJobFolderListResponse xmlns="qv:vorn"><dict>)"
-                                        R"(<item key="FolderArray"><val xsi:type="q:PropArray" xmlns:q="qv:vorn"/>)"
-                                        R"(</item></dict><status>OK</status></GetJobFolderListResponse>)");
+    const std::string empty =
+        soapReply(R"(<GetJobFolderListResponse xmlns="qv:vorn"><dict>)"
+                  R"(<item key="FolderArray"><val xsi:type="q:PropArray" xmlns:q="qv:vorn"/>)"
+                  R"(</item></dict><status>OK</status></GetJobFolderListResponse>)");
     EXPECT_EQ(rowsFor(empty, [](auto& c, auto a) { return c.getJobFolderList(a); }), (Rows{{"Shared", ""}}));
     SetNSBundleForLocalizedString(nullptr);
     PreferredLanguages::setFirst("");
 }
 
 TEST(WebServiceClient, SpotColorListsLeaveOutRecordsWithoutTheirKeys) {
-    auto spots = rowsFor(replyFixture("cms_spot.xml"), [](auto& c, auto a) { return c.getCmsSpotGetAllListData(a); });
+    auto spots =
+        rowsFor(replyFixture("cms_spot.xml"), [](auto& c, auto a) { return c.getCmsSpotGetAllListData(a); });
     EXPECT_EQ(spots, (Rows{{"Rubine Red", "PANTONE", "0", "45.2", "71.5", "4.1", "0", "100", "15", "4"},
                            {"Custom", "Brand Blue", "1", "30", "10", "-60", "100", "70", "0", "0"}}));
-    auto info = rowsFor(replyFixture("spot_color_info.xml"), [](auto& c, auto a) { return c.getSpotColorAllInfoListData(a); });
+    auto info = rowsFor(replyFixture("spot_color_info.xml"),
+                        [](auto& c, auto a) { return c.getSpotColorAllInfoListData(a); });
     EXPECT_EQ(info, (Rows{{"Rubine Red", "Pantone"}, {"Custom", "Brand Blue"}}));
 }
 
 TEST(WebServiceClient, ColumnsFollowTheServerOrderWithEmptyTextForMissingValues) {
-    auto substitutions = rowsFor(replyFixture("color_subst.xml"), [](auto& c, auto a) { return c.getColorSubstList(a); });
-    EXPECT_EQ(substitutions, (Rows{{"Office RGB", "Logo greens", "2023/04/11 09:12:44"},
-                                   {"Proof", "", "2023/05/02 17:00:00"},
-                                   {}}));
-    auto density = rowsFor(replyFixture("density_profiles.xml"), [](auto& c, auto a) { return c.getDensityAdjustProfileList(a); });
+    auto substitutions =
+        rowsFor(replyFixture("color_subst.xml"), [](auto& c, auto a) { return c.getColorSubstList(a); });
+    EXPECT_EQ(
+        substitutions,
+        (Rows{{"Office RGB", "Logo greens", "2023/04/11 09:12:44"}, {"Proof", "", "2023/05/02 17:00:00"}, {}}));
+    auto density = rowsFor(replyFixture("density_profiles.xml"),
+                           [](auto& c, auto a) { return c.getDensityAdjustProfileList(a); });
     EXPECT_EQ(density, (Rows{{"Default", "as shipped", "2023/01/01 00:00:00"},
                              {"2023/05/05 05:05:05", "Light", "minus 5%"}}));
-    auto curves = rowsFor(replyFixture("trc_profiles.xml"), [](auto& c, auto a) { return c.getUserTrcProfileList(a); });
+    auto curves =
+        rowsFor(replyFixture("trc_profiles.xml"), [](auto& c, auto a) { return c.getUserTrcProfileList(a); });
     EXPECT_EQ(curves, (Rows{{"Linear", "identity", "2023/01/01 00:00:00"}}));
-    auto rgb = rowsFor(replyFixture("rgb_input_profiles.xml"), [](auto& c, auto a) { return c.getRGBInputProfileFileList(a); });
+    auto rgb = rowsFor(replyFixture("rgb_input_profiles.xml"),
+                       [](auto& c, auto a) { return c.getRGBInputProfileFileList(a); });
     EXPECT_EQ(rgb, (Rows{{"sRGB IEC61966-2.1", "default", "2022/01/01 00:00:00"},
                          {"Adobe RGB (1998)", "2022/01/01 00:00:00"}}));
-    auto links = rowsFor(replyFixture("device_links.xml"), [](auto& c, auto a) { return c.getDeviceLinkFileList(a); });
+    auto links =
+        rowsFor(replyFixture("device_links.xml"), [](auto& c, auto a) { return c.getDeviceLinkFileList(a); });
     EXPECT_EQ(links, (Rows{{"FOGRA39 to press", "link", "2023/02/02 02:02:02"},
                            {"second", "GRACoL to press", "2023/02/03 03:03:03"}}));
 }
 
 TEST(WebServiceClient, TonerTargetIsAlwaysTheLastColumn) {
-    auto sets = rowsFor(replyFixture("job_resource_sets.xml"), [](auto& c, auto a) { return c.getJobResourceSetList(a); });
+    auto sets =
+        rowsFor(replyFixture("job_resource_sets.xml"), [](auto& c, auto a) { return c.getJobResourceSetList(a); });
     EXPECT_EQ(sets, (Rows{{"SYSTEM_DEFAULT", "factory", "2023/01/01 00:00:00", "CMYK"},
                           {"Coated", "gloss stock", "2023/02/03 08:15:00", "CMYK+Clear"}}));
-    auto calibrations = rowsFor(replyFixture("calib_files.xml"), [](auto& c, auto a) { return c.getCalibFileList(a); });
+    auto calibrations =
+        rowsFor(replyFixture("calib_files.xml"), [](auto& c, auto a) { return c.getCalibFileList(a); });
     EXPECT_EQ(calibrations, (Rows{{"calib_0601.cal", "Standard"},
                                   {"calib_0602.cal", "after service", "2023/06/02 07:45:10", "High"}}));
 }
 
 TEST(WebServiceClient, FontsListStandardFontsBeforeOptionalFonts) {
     auto fonts = rowsFor(replyFixture("fonts.xml"), [](auto& c, auto a) { return c.getFontList(a); });
-    EXPECT_EQ(fonts, (Rows{{"Courier", "Courier"}, {"Helvetica-Bold", "Helvetica Bold"},
+    EXPECT_EQ(fonts, (Rows{{"Courier", "Courier"},
+                           {"Helvetica-Bold", "Helvetica Bold"},
                            {"Mincho", "Ryumin-Light-83pv-RKSJ-H"}}));
 }
 
@@ -183,14 +196,17 @@ TEST(WebServiceClient, JobResourceStatusAndDetailDecideTogether) {
 
 TEST(WebServiceClient, StatusOtherThanOKStopsTheListLoggedOrSilently) {
     LogLines log;
-    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "Error"), [](auto& c, auto a) { return c.getStackerInfoList(a); }),
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "Error"),
+                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
               Rows{});
     EXPECT_TRUE(log.contains("###PrintService error: 41"));
-    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "ok"), [](auto& c, auto a) { return c.getStackerInfoList(a); }),
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "ok"),
+                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
               Rows{});
     EXPECT_TRUE(log.contains("###PrintService error: 0"));
     log.lines.clear();
-    EXPECT_EQ(rowsFor(withStatus(replyFixture("feeders.xml"), "Error"), [](auto& c, auto a) { return c.getFeederInfoList(a); }),
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("feeders.xml"), "Error"),
+                      [](auto& c, auto a) { return c.getFeederInfoList(a); }),
               Rows{});
     EXPECT_TRUE(log.lines.empty());
     std::string fonts = replyFixture("fonts.xml");
@@ -200,8 +216,9 @@ TEST(WebServiceClient, StatusOtherThanOKStopsTheListLoggedOrSilently) {
 }
 
 TEST(WebServiceClient, FaultOrUnreachableServerGivesAnEmptyList) {
-    const std::string fault = soapReply(R"(<soap:Fault><faultcode>soap:Server</faultcode>)"
-                                        R"(<faultstring>Server was unable to process request.</faultstring></soap:Fault>)");
+    const std::string fault =
+        soapReply(R"(<soap:Fault><faultcode>soap:Server</faultcode>)"
+                  R"(<faultstring>Server was unable to process request.</faultstring></soap:Fault>)");
     LoopbackHttpServer server({CannedReply::http(500, fault)});
     WebServiceClient client = clientFor(server);
     EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
@@ -232,6 +249,16 @@ TEST(WebServiceClient, NoAddressOrAnExcludedProgramGivesNothing) {
     EXPECT_FALSE(WebServiceClient::isCommunicationPossible());
     ::prctl(PR_SET_NAME, name);
     EXPECT_EQ(client.getStackerInfoList("127.0.0.1"), Rows{});
+}
+
+TEST(WebServiceClient, AddressThatIsNoHostSendsNothing) {
+    LoopbackHttpServer server({CannedReply::soap(replyFixture("fonts.xml"))});
+    WebServiceClient client = clientFor(server);
+    EXPECT_EQ(client.getFontList("127.0.0.1/elsewhere#"), Rows{});
+    EXPECT_EQ(client.getFontList("user@127.0.0.1"), Rows{});
+    ASSERT_TRUE(client.lastResponseError());
+    EXPECT_EQ(client.lastResponseError()->domain, "HTTPTransport");
+    EXPECT_TRUE(server.requests().empty());
 }
 
 TEST(WebServiceClient, ConvertUrlAddressBracketsIPv6AndEscapesItsZone) {
