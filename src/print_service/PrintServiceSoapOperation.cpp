@@ -46,6 +46,7 @@ void PrintServiceSoapOperation::connectionDidReceiveResponse(const PrintServiceH
 }
 
 void PrintServiceSoapOperation::connectionDidReceiveData(std::string_view bytes) {
+    if (bytes.empty()) return;
     if (!_responseData) _responseData.emplace();
     _responseData->append(bytes);
 }

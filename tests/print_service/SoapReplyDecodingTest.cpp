@@ -187,6 +187,7 @@ TEST(PrintServiceReplyDecoding, MalformedReplyIsReportedTwiceAndTolerated) {
     EXPECT_TRUE(operation.response().error);
 
     PrintServiceSoap_getFontList silent(binding, &delegate, {});
+    silent.connectionDidReceiveData("");
     silent.connectionDidFinishLoading();
     EXPECT_EQ(delegate.calls, 2);
     EXPECT_FALSE(silent.responseData());
