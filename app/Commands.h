@@ -7,7 +7,10 @@ namespace OstrinFlowCommand {
 
 // Each subcommand's body; the help texts sit beside them in CommandTable.cpp.
 
-/// `server LIST --host HOST ...`: one list of the print server as rows.
-int runServerCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Lists the PPD's options with their choices, defaults and marked choices.
+int ppdCommand(const GlobalOptions& options, ArgumentList& arguments);
+
+/// Prints one list of the print server as rows.
+int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
 
 }  // namespace OstrinFlowCommand

@@ -199,7 +199,7 @@ void printRows(const ServerRowList& rows, const std::string& format) {
 
 }  // namespace
 
-int runServerCommand(const GlobalOptions& options, ArgumentList& arguments) {
+int serverCommand(const GlobalOptions& options, ArgumentList& arguments) {
     const ServerList* list = nullptr;
     const ServerQuery query = takeQuery(arguments, list);
     const std::string format = options.formatAmong({"tsv", "json"});

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <cstdio>
 
 #include <filesystem>
 #include <fstream>
@@ -42,6 +45,25 @@ inline std::string readFile(const std::string& path) {
 
 inline std::string dataPath(std::string_view name) {
     return std::string(OSTRIN_TEST_DATA_DIR) + "/" + std::string(name);
+}
+
+/// What a shell command line printed (stdout and stderr together) and its exit status.
+struct ShellResult {
+    int exitCode = -1;
+    std::string output;
+};
+
+/// Runs commandLine with /bin/sh and waits for it.
+inline ShellResult runShell(const std::string& commandLine) {
+    ShellResult result;
+    std::FILE* pipe = ::popen((commandLine + " 2>&1").c_str(), "r");
+    if (!pipe) return result;
+    char buffer[4096];
+    for (std::size_t count; (count = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
+        result.output.append(buffer, count);
+    const int status = ::pclose(pipe);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
 }
 
 }  // namespace OstrinTest

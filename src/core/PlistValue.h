@@ -30,7 +30,7 @@ public:
     /// The value under key, or nullptr.
     const PlistValue* find(std::string_view key) const;
     PlistValue* find(std::string_view key);
-    bool contains(std::string_view key) const { return find(key) != nullptr; }
+    bool contains(std::string_view key) const;
     /// The string under key, or nothing when absent or not a string.
     std::optional<std::string> stringFor(std::string_view key) const;
     /// The string under key, or fallback when absent or not a string.
@@ -42,14 +42,14 @@ public:
     bool erase(std::string_view key);
     void clear();
 
-    std::size_t size() const { return _entries.size(); }
-    bool empty() const { return _entries.empty(); }
+    std::size_t size() const;
+    bool empty() const;
     std::vector<std::string> keys() const;
 
-    const_iterator begin() const { return _entries.begin(); }
-    const_iterator end() const { return _entries.end(); }
-    iterator begin() { return _entries.begin(); }
-    iterator end() { return _entries.end(); }
+    const_iterator begin() const;
+    const_iterator end() const;
+    iterator begin();
+    iterator end();
 
     bool operator==(const PlistDictionary& other) const;
 
@@ -110,5 +110,15 @@ private:
                  PlistDictionary>
         _value;
 };
+
+// Defined here, where PlistValue is complete: some compilers instantiate the entry type
+// as soon as a member function body names it.
+inline bool PlistDictionary::contains(std::string_view key) const { return find(key) != nullptr; }
+inline std::size_t PlistDictionary::size() const { return _entries.size(); }
+inline bool PlistDictionary::empty() const { return _entries.empty(); }
+inline PlistDictionary::const_iterator PlistDictionary::begin() const { return _entries.begin(); }
+inline PlistDictionary::const_iterator PlistDictionary::end() const { return _entries.end(); }
+inline PlistDictionary::iterator PlistDictionary::begin() { return _entries.begin(); }
+inline PlistDictionary::iterator PlistDictionary::end() { return _entries.end(); }
 
 }  // namespace ComQuorvantVelmar_Plugin

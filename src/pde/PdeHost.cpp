@@ -1,0 +1,25 @@
+#include "pde/PdeHost.h"
+
+#include "core/Diagnostics.h"
+#include "pde/PrintSettings.h"
+#include "ppd/PpdFile.h"
+
+namespace ComQuorvantVelmar_Plugin {
+
+PdeHost::~PdeHost() = default;
+
+bool PdeHost::markPpdChoice(PpdFile* ppd, PrintSettings& settings, const std::string& option,
+                            const std::string& choice) {
+    if (ppd) {
+        if (!ppd->isExists(option, choice)) return false;
+        // libcups keeps its own linked options in step (PageRegion with PageSize); the
+        // press's own conflicts are the panel's to put to the user, never resolved here.
+        const int conflicts = ppd->markOption(option, choice);
+        if (conflicts > 0)
+            Diagnostics::logf("### %s=%s leaves %d PPD conflict(s)", option.c_str(), choice.c_str(),
+                              conflicts);
+    }
+    return settings.setValue(option, choice);
+}
+
+}  // namespace ComQuorvantVelmar_Plugin

@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include "core/Bundle.h"
+#include "core/FormatterAttachment.h"
+#include "core/LocalizedString.h"
+#include "core/MaxBytesFormatterWithEscapeAndCharacterSet.h"
+#include "core/MaxLengthFormatterWithCharacterSet.h"
+#include "core/MaxLengthFormatterWithEscapeAndCharacterSet.h"
+#include "core/PreferredLanguages.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+
+namespace {
+
+// Types text one piece at a time, as a field reports each change with the caret at its end.
+void type(TextLimitFormatter& formatter, std::string& field, std::string_view piece) {
+    const std::string edited = field + std::string(piece);
+    const EditDecision decision = formatter.didChange(edited, {edited.size(), 0});
+    field = decision.text;
+}
+
+}  // namespace
+
+TEST(MaxBytesFormatter, EleventhByteIsRefusedAndUndoRestored) {
+    MaxBytesFormatter formatter(0, 10);
+    ASSERT_TRUE(formatter.didChange("abcdefghij", {7, 2}).accepted);
+    const EditDecision refused = formatter.didChange("abcdefghijk", {11, 0});
+    EXPECT_FALSE(refused.accepted);
+    EXPECT_EQ(refused.text, "abcdefghij");
+    EXPECT_EQ(refused.selection, (TextSelection{7, 2}));
+    EXPECT_EQ(formatter.undoText(), "abcdefghij");
+}
+
+TEST(MaxBytesFormatter, TwoByteCharacterAtNineBytesIsRefused) {
+    auto formatter = MaxBytesFormatter::setMaxBytesFormatter(10);
+    std::string field;
+    type(*formatter, field, "abcdefghi");
+    type(*formatter, field, "\xC3\xA4");
+    EXPECT_EQ(field, "abcdefghi");
+    type(*formatter, field, "j");
+    EXPECT_EQ(field, "abcdefghij");
+}
+
+TEST(MaxLengthFormatter, CountsCharactersNotBytes) {
+    MaxLengthFormatter formatter(0, 3);
+    std::string field;
+    type(formatter, field, "\xC3\xA4\xE3\x81\x82z");  // 3 characters, 6 bytes
+    EXPECT_EQ(field, "\xC3\xA4\xE3\x81\x82z");
+    type(formatter, field, "!");
+    EXPECT_EQ(field, "\xC3\xA4\xE3\x81\x82z");
+    // A character outside the Basic Multilingual Plane counts twice, as the field counts it.
+    MaxLengthFormatter two(0, 2);
+    EXPECT_TRUE(two.didChange("\xF0\x9F\x94\x91", {2, 0}).accepted);
+    EXPECT_FALSE(two.didChange("a\xF0\x9F\x94\x91", {3, 0}).accepted);
+}
+
+TEST(MaxBytesFormatter, ControlCharactersOnlyWhenEnabled) {
+    MaxBytesFormatter formatter(0, 20);
+    EXPECT_TRUE(formatter.containNotAllowedCharactor("a\tb"));
+    EXPECT_TRUE(formatter.containNotAllowedCharactor("a\xE2\x80\x8B"));  // zero-width space
+    EXPECT_FALSE(formatter.containNotAllowedCharactor("a b \xC3\xA4"));
+    EXPECT_FALSE(formatter.didChange("line\n", {5, 0}).accepted);
+    formatter.setControlCharactersEnabled(true);
+    EXPECT_TRUE(formatter.didChange("line\n", {5, 0}).accepted);
+}
+
+TEST(MaxLengthFormatterWithCharacterSet, RefusesCharactersOutsideTheSet) {
+    auto formatter = MaxLengthFormatterWithCharacterSet::setMaxLengthFormatter(
+        5, CharacterSet::characterSetWithCharactersInString("0123456789"));
+    std::string field;
+    type(*formatter, field, "12");
+    type(*formatter, field, "a");
+    EXPECT_EQ(field, "12");
+    type(*formatter, field, "345");
+    type(*formatter, field, "6");
+    EXPECT_EQ(field, "12345");
+    EXPECT_TRUE(formatter->containNotAllowedCharactor("1\x01"));
+}
+
+TEST(MaxBytesFormatter, MinimumKeepsEditingWithMessageButEmptyMayEnd) {
+    SetNSBundleForLocalizedString(nullptr);
+    MaxBytesFormatter formatter(3, 10);
+    const EndEditingDecision tooShort = formatter.controlTextShouldEndEditing("ab", {"Favorite name"});
+    EXPECT_FALSE(tooShort.shouldEndEditing);
+    EXPECT_EQ(tooShort.message, "Please specify at least 3 characters for Favorite name.");
+    EXPECT_EQ(formatter.controlTextShouldEndEditing("ab", {}).message,
+              "Please specify at least 3 characters for --.");
+    EXPECT_TRUE(formatter.controlTextShouldEndEditing("", {"Favorite name"}).shouldEndEditing);
+    EXPECT_TRUE(formatter.controlTextShouldEndEditing("abc", {"Favorite name"}).shouldEndEditing);
+    // Two characters of two bytes each reach a minimum of 3 bytes, not of 3 characters.
+    EXPECT_TRUE(formatter.controlTextShouldEndEditing("\xC3\xA4\xC3\xB6", {"x"}).shouldEndEditing);
+    EXPECT_FALSE(MaxLengthFormatter(3, 10).controlTextShouldEndEditing("\xC3\xA4\xC3\xB6", {"x"}).shouldEndEditing);
+    EXPECT_TRUE(MaxBytesFormatter(0, 10).controlTextShouldEndEditing("a", {"x"}).shouldEndEditing);
+}
+
+TEST(MaxBytesFormatter, MinimumMessageIsLocalised) {
+    SetNSBundleForLocalizedString(Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR));
+    MaxLengthFormatter formatter(4, 10);
+    PreferredLanguages::setFirst("de-DE");
+    EXPECT_EQ(formatter.controlTextShouldEndEditing("ab", {"Name"}).message,
+              "Bitte geben Sie für Name mindestens 4 Zeichen an.");
+    PreferredLanguages::setFirst("ja");
+    EXPECT_EQ(formatter.controlTextShouldEndEditing("ab", {"Name"}).message,
+              "Nameには4文字以上を指定してください。");
+    PreferredLanguages::setFirst("");
+    SetNSBundleForLocalizedString(nullptr);
+}
+
+TEST(MaxBytesFormatter, ObjectValueNeedsAPlaceForTheResult) {
+    MaxBytesFormatter bytes(0, 10);
+    std::string error;
+    EXPECT_FALSE(bytes.getObjectValue(nullptr, "abc", &error));
+    EXPECT_EQ(error, "NULL Object pointer to MaxBytesFormatter");
+    EXPECT_FALSE(MaxLengthFormatter(0, 10).getObjectValue(nullptr, "abc", &error));
+    EXPECT_EQ(error, "NULL Object pointer to MaxLengthFormatter");
+    EXPECT_FALSE(bytes.getObjectValue(nullptr, "abc", nullptr));
+    std::string value;
+    EXPECT_TRUE(bytes.getObjectValue(&value, "a(b)", &error));
+    EXPECT_EQ(value, "a(b)");
+    EXPECT_EQ(bytes.stringForObjectValue(PlistValue("x")), "x");
+    EXPECT_EQ(bytes.stringForObjectValue(PlistValue(5)), "");
+}
+
+TEST(EscapeFormatter, ValueIsEscapedAndShownUnescaped) {
+    MaxBytesFormatterWithEscapeAndCharacterSet formatter(
+        0, 20, CharacterSet::characterSetWithRange(U' ', 95));
+    formatter.replace("'", "%x27");
+    formatter.replace(",", "%x2C");
+    std::string value;
+    ASSERT_TRUE(formatter.getObjectValue(&value, "it's a,b", nullptr));
+    EXPECT_EQ(value, "it%x27s a%x2Cb");
+    EXPECT_EQ(formatter.stringForObjectValue(PlistValue(value)), "it's a,b");
+    EXPECT_TRUE(formatter.containNotAllowedCharactor("\xC3\xA4"));
+}
+
+TEST(EscapeFormatter, LimitCountsTheTextAsTyped) {
+    auto formatter = attachMaxLengthFormatterWithEscape(5);
+    EXPECT_TRUE(formatter->didChange("((((\\", {5, 0}).accepted);
+    std::string value;
+    ASSERT_TRUE(formatter->getObjectValue(&value, "((((\\", nullptr));
+    EXPECT_EQ(value, "\\(\\(\\(\\(\\\\");
+    EXPECT_FALSE(formatter->didChange("((((((", {6, 0}).accepted);
+}
+
+TEST(FormatterAttachment, JobNameRulesRoundTrip) {
+    auto formatter = attachMaxBytesFormatterWithEscape(255);
+    EXPECT_EQ(formatter->maxBytes(), 255u);
+    EXPECT_EQ(formatter->minBytes(), 0u);
+    std::string value;
+    ASSERT_TRUE(formatter->getObjectValue(&value, "Report (draft) \\\\server", nullptr));
+    EXPECT_EQ(value, "Report \\(draft\\) \\\\\\\\server");
+    EXPECT_EQ(formatter->stringForObjectValue(PlistValue(value)), "Report (draft) \\\\server");
+    // A text that looks escaped already is escaped again, so it comes back unchanged.
+    ASSERT_TRUE(formatter->getObjectValue(&value, "\\(", nullptr));
+    EXPECT_EQ(formatter->stringForObjectValue(PlistValue(value)), "\\(");
+}
+
+TEST(FormatterAttachment, PlainFormsHaveNoMinimumAndNoEscape) {
+    auto bytes = attachMaxBytesFormatter(27);
+    auto length = attachMaxLengthFormatter(255);
+    EXPECT_EQ(bytes->maxBytes(), 27u);
+    EXPECT_EQ(length->maxLength(), 255u);
+    EXPECT_TRUE(bytes->controlTextShouldEndEditing("a", {"Name"}).shouldEndEditing);
+    std::string value;
+    ASSERT_TRUE(length->getObjectValue(&value, "(a)", nullptr));
+    EXPECT_EQ(value, "(a)");
+}

@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "TestSupport.h"
+#include "core/FileAttributes.h"
+#include "core/SystemVersion.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+
+namespace {
+
+// The classic form of a folder below the root: "/:" then its components.
+std::string classicOf(const std::string& folder) {
+    std::string classic = "/";
+    for (const auto& component : std::filesystem::path(folder).relative_path())
+        if (!component.empty()) classic += ":" + component.string();
+    return classic;
+}
+
+}  // namespace
+
+TEST(ClassicPath, FilesAndFoldersOnDisk) {
+    OstrinTest::TemporaryDirectory folder;
+    std::filesystem::create_directories(folder.file("Favorites/Sub"));
+    OstrinTest::writeFile(folder.file("Favorites/My.pqz"), "x");
+    const std::string base = classicOf(folder.path());
+    EXPECT_EQ(toClassicPath(folder.file("Favorites/My.pqz")), base + ":Favorites:My.pqz");
+    EXPECT_EQ(toClassicPath(folder.file("Favorites/Sub")), base + ":Favorites:Sub:");
+    EXPECT_EQ(toClassicPath(folder.file("Favorites/Sub/")), base + ":Favorites:Sub:");
+    EXPECT_EQ(toClassicPath(folder.file("Favorites/Sub/../My.pqz")), base + ":Favorites:My.pqz");
+    EXPECT_EQ(toClassicPath("/"), "/:");
+}
+
+TEST(ClassicPath, ColonInNameShowsAsSlash) {
+    OstrinTest::TemporaryDirectory folder;
+    OstrinTest::writeFile(folder.file("10:30 run.pqz"), "x");
+    EXPECT_EQ(toClassicPath(folder.file("10:30 run.pqz")), classicOf(folder.path()) + ":10/30 run.pqz");
+}
+
+TEST(ClassicPath, MissingOrEmptyPathGivesEmptyText) {
+    OstrinTest::TemporaryDirectory folder;
+    EXPECT_EQ(toClassicPath(folder.file("missing.pqz")), "");
+    EXPECT_EQ(toClassicPath(""), "");
+}
+
+TEST(ClassicPath, RelativePathStartsAtWorkingFolder) {
+    OstrinTest::TemporaryDirectory folder;
+    OstrinTest::writeFile(folder.file("job.pqz"), "x");
+    const auto previous = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    const std::string here = std::filesystem::current_path().string();
+    const std::string classic = toClassicPath("job.pqz");
+    std::filesystem::current_path(previous);
+    EXPECT_EQ(classic, classicOf(here) + ":job.pqz");
+}
+
+TEST(InvisibleFile, NameBeginningWithDotOfExistingFile) {
+    OstrinTest::TemporaryDirectory folder;
+    OstrinTest::writeFile(folder.file(".hidden.pqz"), "x");
+    OstrinTest::writeFile(folder.file("shown.pqz"), "x");
+    std::filesystem::create_directories(folder.file(".cache"));
+    EXPECT_TRUE(isFileInVisible(folder.file(".hidden.pqz")));
+    EXPECT_TRUE(isFileInVisible(folder.file(".cache/")));
+    EXPECT_FALSE(isFileInVisible(folder.file("shown.pqz")));
+    EXPECT_FALSE(isFileInVisible(folder.file(".missing.pqz")));
+    EXPECT_FALSE(isFileInVisible(folder.file(".cache/..")));
+    EXPECT_FALSE(isFileInVisible(folder.file(".")));
+    EXPECT_FALSE(isFileInVisible(""));
+}
+
+TEST(SystemVersion, EveryBoundaryCountsAsReached) {
+    EXPECT_TRUE(isOSVer_After10_2());
+    EXPECT_TRUE(isOSVer_After10_3());
+    EXPECT_TRUE(isOSVer_After10_4());
+    EXPECT_TRUE(isOSVer_After10_7());
+    EXPECT_TRUE(isOSVer_After10_9());
+    EXPECT_TRUE(isOSVer_After10_10());
+}
