@@ -14,4 +14,7 @@ int convertCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Prints the size record of a paper size name.
 int paperSizeCommand(const GlobalOptions& options, ArgumentList& arguments);
 
+/// Prints one list of the print server as rows.
+int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
+
 }  // namespace OstrinFlowCommand
