@@ -2,6 +2,7 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -44,11 +45,9 @@ PlistValue fromDictionary(plist_t node) {
 }
 
 std::string stringOf(plist_t node) {
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    std::string result = text ? text : "";
-    free(text);
-    return result;
+    uint64_t length = 0;
+    const char* text = plist_get_string_ptr(node, &length);
+    return text ? std::string(text, length) : std::string();
 }
 
 PlistValue fromNode(plist_t node) {
@@ -124,8 +123,8 @@ plist_t toNode(const PlistValue& value) {
 }
 
 // libplist 2.2 aborts the process when a string or key holding a NUL byte is read back.
-// Valid XML never holds one, so such text is refused; a binary list is rewritten as XML,
-// which ends each text at its NUL, and read from there.
+// Valid XML never holds one, so such text is refused; a binary list is rewritten as XML
+// without the NUL bytes of its texts (base64 data holds none) and read from there.
 PlistHandle parseSafely(std::string_view bytes) {
     const auto length = static_cast<uint32_t>(bytes.size());
     plist_t root = nullptr;
@@ -141,9 +140,11 @@ PlistHandle parseSafely(std::string_view bytes) {
     uint32_t xmlLength = 0;
     plist_to_xml(binary.get(), &xml, &xmlLength);
     if (!xml) return nullptr;
-    root = nullptr;
-    plist_from_xml(xml, xmlLength, &root);
+    std::string text(xml, xmlLength);
     plist_to_xml_free(xml);
+    text.erase(std::remove(text.begin(), text.end(), '\0'), text.end());
+    root = nullptr;
+    plist_from_xml(text.data(), static_cast<uint32_t>(text.size()), &root);
     return PlistHandle(root);
 }
 

@@ -73,7 +73,11 @@ TEST(PlistIO, TextWithANulByteNeverAbortsTheReader) {
         if (byte == 'Q') byte = '\0';
     auto parsed = PlistIO::parse(binary);
     ASSERT_TRUE(parsed && parsed->dictionary());
+    // An ASCII text ends at its NUL byte.
     EXPECT_EQ(parsed->dictionary()->stringFor("a", ""), "y");
+
+    // A UTF-16 text whose characters include U+0000, found by fuzzing.
+    EXPECT_TRUE(PlistIO::readFile(OstrinTest::dataPath("core/utf16-nul-string.bplist")).has_value());
 }
 
 TEST(PlistIO, NullEntriesAreLeftOutWhenWriting) {
