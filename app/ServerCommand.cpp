@@ -8,9 +8,6 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "JsonIO.h"
-#include "core/Bundle.h"
-#include "core/LocalizedString.h"
-#include "core/PreferredLanguages.h"
 #include "print_service/WebServiceClient.h"
 
 namespace OstrinFlowCommand {
@@ -203,9 +200,6 @@ int serverCommand(const GlobalOptions& options, ArgumentList& arguments) {
     const ServerList* list = nullptr;
     const ServerQuery query = takeQuery(arguments, list);
     const std::string format = options.formatAmong({"tsv", "json"});
-    if (options.language) ComQuorvantVelmar_Plugin::PreferredLanguages::setFirst(*options.language);
-    ComQuorvantVelmar_Plugin::SetNSBundleForLocalizedString(
-        ComQuorvantVelmar_Plugin::Bundle::bundleWithPath(options.bundlePath));
     WebServiceClient client;
     if (query.port) client.setPort(*query.port);
     const std::optional<ServerRowList> rows = list->fetch(client, query);
