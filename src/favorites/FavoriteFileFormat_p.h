@@ -12,6 +12,12 @@ namespace ComQuorvantVelmar_Plugin::FavoriteFileFormat {
 
 /// The format version the writer puts into every file.
 constexpr std::int32_t writtenVersion = 2;
+/// Byte limits of the reader's tokens; a longer token is cut there and its rest is read
+/// as what follows it.
+constexpr std::size_t headerTokenLimit = 32;
+constexpr std::size_t commentLimit = 255;
+constexpr std::size_t keyLimit = 128;
+constexpr std::size_t valueLimit = 512;
 
 /// What a favorite file holds once read and accepted.
 struct Contents {

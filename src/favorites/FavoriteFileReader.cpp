@@ -6,12 +6,6 @@
 namespace ComQuorvantVelmar_Plugin::FavoriteFileFormat {
 namespace {
 
-// Byte limits of the tokens; a longer token is cut there and its rest read as what follows.
-constexpr std::size_t headerTokenLimit = 32;
-constexpr std::size_t commentLimit = 255;
-constexpr std::size_t keyLimit = 128;
-constexpr std::size_t valueLimit = 512;
-
 // The bytes up to a delimiter, the end of the file or the token's limit.
 struct Token {
     std::string bytes;

@@ -204,3 +204,17 @@ TEST(FavoriteFile, PlainFunctionsReadCommentAndOptions) {
     EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(dataPath("favorites/other-device.pqz")));
     EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(std::nullopt));
 }
+
+TEST(FavoriteFile, WriterShortensAnOverlongCommentByWholeCharacters) {
+    OstrinTest::useProductStrings("ja");
+    OstrinTest::TemporaryDirectory folder;
+    const std::string path = folder.file("long.pqz");
+    std::string comment;
+    for (int i = 0; i < 200; ++i) comment += "あ";
+    favoriteWith(comment, PlistDictionary{{"A", "1"}}).writeToFile(path);
+    FavoriteFile favorite(path);
+    std::string expected;
+    for (int i = 0; i < 127; ++i) expected += "あ";
+    EXPECT_EQ(favorite.comment(), expected);
+    EXPECT_EQ(favorite.options(), (PlistDictionary{{"A", "1"}}));
+}
