@@ -52,7 +52,8 @@ public:
             if ((static_cast<unsigned char>(text[end]) & 0xC0) != 0x80) ++characters;
         if (characters > limit) text.resize(end - 1);
         std::string bytes = (*this)(text);
-        if (bytes.size() > limit) Diagnostics::log("### favorite text shortened to " + std::to_string(limit) + " bytes");
+        if (bytes.size() > limit)
+            Diagnostics::log("### favorite text shortened to " + std::to_string(limit) + " bytes");
         while (bytes.size() > limit) {
             removeLastCharacter(text);
             bytes = (*this)(text);
@@ -92,8 +93,9 @@ std::string bytes(const std::optional<std::string>& comment, const std::optional
     text += "Comment=" + encode.limited(withoutDelimiter(comment.value_or(""), '\n'), commentLimit) + "\n";
     if (options) text += optionsBytes(*options, encode);
     if (encode.lossy())
-        Diagnostics::log("### favorite text has characters that the local encoding cannot hold; they are "
-                         "saved as \"?\"");
+        Diagnostics::log(
+            "### favorite text has characters that the local encoding cannot hold; they are "
+            "saved as \"?\"");
     return text;
 }
 

@@ -25,8 +25,10 @@ void PopUpMenuModel::insertItem(PopUpMenuItem item, std::int64_t index) {
 void PopUpMenuModel::removeItemAtIndex(std::int64_t index) {
     if (index < 0 || index >= numberOfItems()) return;
     _items.erase(_items.begin() + index);
-    if (_selectedIndex == index) _selectedIndex = -1;
-    else if (_selectedIndex > index) --_selectedIndex;
+    if (_selectedIndex == index)
+        _selectedIndex = -1;
+    else if (_selectedIndex > index)
+        --_selectedIndex;
 }
 
 const PopUpMenuItem* PopUpMenuModel::itemAtIndex(std::int64_t index) const {
@@ -38,8 +40,9 @@ void PopUpMenuModel::selectItemAtIndex(std::int64_t index) {
 }
 
 std::int64_t PopUpMenuModel::indexOfItemWithTitle(std::string_view title) const {
-    auto found = std::find_if(_items.begin(), _items.end(),
-                              [&](const PopUpMenuItem& item) { return !item.isSeparator && item.title == title; });
+    auto found = std::find_if(_items.begin(), _items.end(), [&](const PopUpMenuItem& item) {
+        return !item.isSeparator && item.title == title;
+    });
     return found == _items.end() ? notFound : found - _items.begin();
 }
 

@@ -26,7 +26,8 @@ struct TrashSlot {
 };
 
 bool makeTrashFolders(const std::string& trash) {
-    return XdgFolders::createFolders(trash + "/files", 0700) && XdgFolders::createFolders(trash + "/info", 0700);
+    return XdgFolders::createFolders(trash + "/files", 0700) &&
+           XdgFolders::createFolders(trash + "/info", 0700);
 }
 
 // Each path component escaped as a URL, the slashes kept.
@@ -47,7 +48,7 @@ std::string escapedPath(const std::string& path) {
 
 std::string deletionDate() {
     const std::time_t now = std::time(nullptr);
-    std::tm local {};
+    std::tm local{};
     ::localtime_r(&now, &local);
     char text[32];
     std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S", &local);

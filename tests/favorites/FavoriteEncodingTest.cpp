@@ -114,12 +114,15 @@ TEST(FavoriteEncoding, OtherScriptLogsAndWritesShiftJis) {
 }
 
 TEST(FavoriteEncoding, LocalEncodingFollowsThePreferredLanguage) {
-    const std::pair<const char*, StringEncoding> cases[] = {
-        {"en", StringEncoding::DOSLatin1},          {"fr-CA", StringEncoding::DOSLatin1},
-        {"ja", StringEncoding::DOSJapanese},        {"ko-KR", StringEncoding::DOSKorean},
-        {"zh-TW", StringEncoding::DOSChineseTrad},  {"zh-Hant", StringEncoding::DOSChineseTrad},
-        {"zh-CN", StringEncoding::DOSChineseSimplif}, {"zh", StringEncoding::DOSChineseSimplif},
-        {"el", StringEncoding::None}};
+    const std::pair<const char*, StringEncoding> cases[] = {{"en", StringEncoding::DOSLatin1},
+                                                            {"fr-CA", StringEncoding::DOSLatin1},
+                                                            {"ja", StringEncoding::DOSJapanese},
+                                                            {"ko-KR", StringEncoding::DOSKorean},
+                                                            {"zh-TW", StringEncoding::DOSChineseTrad},
+                                                            {"zh-Hant", StringEncoding::DOSChineseTrad},
+                                                            {"zh-CN", StringEncoding::DOSChineseSimplif},
+                                                            {"zh", StringEncoding::DOSChineseSimplif},
+                                                            {"el", StringEncoding::None}};
     for (const auto& [language, encoding] : cases) {
         OstrinTest::useProductStrings(language);
         EXPECT_EQ(StringEncodings::stringEncodingForLocal(), encoding) << language;

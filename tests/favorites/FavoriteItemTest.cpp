@@ -9,8 +9,9 @@ using namespace ComQuorvantVelmar_Plugin;
 
 namespace {
 
-const std::string invalidName = "A favorite name must have 1 to 27 bytes, must not be blank and must not "
-                                "contain any of these characters: / \\ : * ? \" < > |";
+const std::string invalidName =
+    "A favorite name must have 1 to 27 bytes, must not be blank and must not "
+    "contain any of these characters: / \\ : * ? \" < > |";
 
 }  // namespace
 
@@ -42,14 +43,16 @@ TEST(FavoriteItem, DefaultFavoriteNameIsReservedInEachLanguage) {
     EXPECT_TRUE(FavoriteItem::isEqualToDefaultFavoriteName("Standardeinstellungen"));
     EXPECT_FALSE(FavoriteItem::checkName("Default Settings"));
     OstrinTest::useProductStrings("ja");
-    EXPECT_EQ(FavoriteItem::checkName("標準設定"), "この名前は標準設定に使われています。別の名前を入力してください。");
+    EXPECT_EQ(FavoriteItem::checkName("標準設定"),
+              "この名前は標準設定に使われています。別の名前を入力してください。");
 }
 
 TEST(FavoriteItem, CommentsUpTo255Bytes) {
     OstrinTest::useProductStrings("en");
     EXPECT_FALSE(FavoriteItem::checkComment(std::string(255, 'c')));
     EXPECT_FALSE(FavoriteItem::checkComment(std::nullopt));
-    EXPECT_EQ(FavoriteItem::checkComment(std::string(256, 'c')), "A comment must not be longer than 255 bytes.");
+    EXPECT_EQ(FavoriteItem::checkComment(std::string(256, 'c')),
+              "A comment must not be longer than 255 bytes.");
     EXPECT_FALSE(FavoriteItem::checkComment(std::string(252, 'c') + "あ"));
     EXPECT_TRUE(FavoriteItem::checkComment(std::string(253, 'c') + "あ"));
 }
