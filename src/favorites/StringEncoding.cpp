@@ -125,21 +125,4 @@ std::string encode(std::string_view text, StringEncoding encoding, bool* lossy) 
     return bytes;
 }
 
-std::u32string characters(std::string_view text) {
-    std::string units;
-    Converter converter("UTF-32LE", "UTF-8");
-    if (!converter.isOpen()) return {};
-    converter.convert(text, units, [](std::string_view, std::string& output) {
-        output.append("\xFD\xFF\x00\x00", 4);
-        return std::size_t{1};
-    });
-    std::u32string result;
-    for (std::size_t offset = 0; offset + 4 <= units.size(); offset += 4) {
-        const auto* unit = reinterpret_cast<const unsigned char*>(units.data() + offset);
-        result.push_back(static_cast<char32_t>(unit[0] | unit[1] << 8 | unit[2] << 16 |
-                                               static_cast<char32_t>(unit[3]) << 24));
-    }
-    return result;
-}
-
 }  // namespace ComQuorvantVelmar_Plugin::StringEncodings

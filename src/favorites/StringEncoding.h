@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ComQuorvantVelmar_Plugin {
 
@@ -35,8 +34,6 @@ std::optional<std::string> decodeStrictly(std::string_view bytes, StringEncoding
 /// UTF-8 text as bytes in encoding; each character the encoding cannot hold becomes "?"
 /// and sets lossy; the text unchanged for None.
 std::string encode(std::string_view text, StringEncoding encoding, bool* lossy = nullptr);
-/// The Unicode characters of UTF-8 text; a malformed byte becomes U+FFFD.
-std::u32string characters(std::string_view text);
 
 /// The encoding of the application's text script, decided from the first preferred
 /// language: Roman -> DOSLatin1, Japanese -> DOSJapanese, traditional Chinese ->
