@@ -46,7 +46,8 @@ FavoriteFile::FavoriteFile(const std::string& path) {
     if (path.empty()) return;
     FileCloser file = openFavorite(path);
     if (!file) return;
-    auto contents = FavoriteFileFormat::read(file.get(), destinationIotType);
+    auto contents =
+        FavoriteFileFormat::read(file.get(), destinationIotType);
     if (!contents) {
         Diagnostics::log("### \"" + path + "\" is not a favorite file of this printer");
         return;
@@ -60,8 +61,15 @@ FavoriteFile::FavoriteFile(const std::string& path) {
 
 bool FavoriteFile::writeToFile(const std::string& path) const {
     if (path.empty()) return true;
-    const std::string bytes = FavoriteFileFormat::bytes(_comment, _options, destinationIotType,
-                                                        StringEncodings::stringEncodingForLocal());
+    // A favorite without options reads as no favorite at all; writing one would only
+    // destroy the file it replaces (one read without success, say, and saved again).
+    if (!_options || _options->empty()) {
+        Diagnostics::log("### favorite \"" + path + "\" has no options and is not saved");
+        return true;
+    }
+    const std::string bytes =
+        FavoriteFileFormat::bytes(_comment, _options, destinationIotType,
+                                  StringEncodings::stringEncodingForLocal());
     // Callers never learn of a failed save; the atomic write keeps the previous file.
     if (!AtomicFile::write(path, bytes)) Diagnostics::log("### fail to save favorite \"" + path + "\"");
     return true;
@@ -95,8 +103,8 @@ std::optional<std::string> FavoriteFile::stringByAppendingExtension(const std::o
 }
 
 bool FavoriteFile::hasExtension(const std::string& path) {
-    return path.size() >= extension.size() && path.compare(path.size() - extension.size(), extension.size(),
-                                                           extension) == 0;
+    return path.size() >= extension.size() &&
+           path.compare(path.size() - extension.size(), extension.size(), extension) == 0;
 }
 
 }  // namespace ComQuorvantVelmar_Plugin

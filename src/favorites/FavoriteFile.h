@@ -20,8 +20,9 @@ public:
     explicit FavoriteFile(const std::string& path);
 
     /// Writes the options and comment to path in the local text encoding, replacing any
-    /// previous file only once the new one is complete. Answers true in every case; a
-    /// failure is logged, and the previous file is then left as it was.
+    /// previous file only once the new one is complete; a favorite without options is not
+    /// written. Answers true in every case; a failure is logged, and the previous file is
+    /// then left as it was.
     bool writeToFile(const std::string& path) const;
 
     std::int32_t version() const { return _version; }

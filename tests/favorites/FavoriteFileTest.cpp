@@ -156,6 +156,20 @@ TEST(FavoriteFile, WriterAnswersTrueEvenWhenItCannotWrite) {
     EXPECT_FALSE(std::filesystem::exists("/nonexistent-folder/x.pqz"));
 }
 
+TEST(FavoriteFile, FavoriteWithoutOptionsNeverReplacesAFile) {
+    OstrinTest::useProductStrings("en");
+    OstrinTest::TemporaryDirectory folder;
+    const std::string path = folder.file("Proofs.pqz");
+    favoriteWith("first", PlistDictionary{{"A", "1"}}).writeToFile(path);
+    const std::string before = OstrinTest::readFile(path);
+    // As the favorites window does with a file it could not read: set a comment, save.
+    FavoriteFile unreadable(folder.file("missing.pqz"));
+    unreadable.setComment("new comment");
+    EXPECT_TRUE(unreadable.writeToFile(path));
+    EXPECT_TRUE(favoriteWith("x", PlistDictionary{}).writeToFile(path));
+    EXPECT_EQ(OstrinTest::readFile(path), before);
+}
+
 TEST(FavoriteFile, WriteFailingHalfWayLeavesThePreviousFile) {
     OstrinTest::useProductStrings("en");
     OstrinTest::TemporaryDirectory folder;
