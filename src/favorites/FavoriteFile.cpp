@@ -8,15 +8,13 @@
 
 #include "core/AtomicFile.h"
 #include "core/Diagnostics.h"
+#include "favorites/AppPreference.h"
 #include "favorites/FavoriteFileFormat_p.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
 constexpr std::string_view extension = ".pqz";
-
-// The device type every favorite of this product is written for and read with.
-constexpr std::int32_t destinationIotType = 13;
 
 using FileCloser = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
@@ -47,7 +45,7 @@ FavoriteFile::FavoriteFile(const std::string& path) {
     FileCloser file = openFavorite(path);
     if (!file) return;
     auto contents =
-        FavoriteFileFormat::read(file.get(), destinationIotType);
+        FavoriteFileFormat::read(file.get(), AppPreference::sharedInstance().destinationIotType());
     if (!contents) {
         Diagnostics::log("### \"" + path + "\" is not a favorite file of this printer");
         return;
@@ -68,7 +66,7 @@ bool FavoriteFile::writeToFile(const std::string& path) const {
         return true;
     }
     const std::string bytes =
-        FavoriteFileFormat::bytes(_comment, _options, destinationIotType,
+        FavoriteFileFormat::bytes(_comment, _options, AppPreference::sharedInstance().destinationIotType(),
                                   StringEncodings::stringEncodingForLocal());
     // Callers never learn of a failed save; the atomic write keeps the previous file.
     if (!AtomicFile::write(path, bytes)) Diagnostics::log("### fail to save favorite \"" + path + "\"");
