@@ -96,7 +96,6 @@ const std::vector<Command>& commandTable() {
          "typeNum is the press's type number; height and width are in cep (1/14400 inch).\n\n"
          "Exit status 3 for a name without a record (Custom and NoChange among them).\n",
          paperSizeCommand},
-        {"server", "one list of the print server as rows", kServerHelp, serverCommand},
         {"favorites", "list, show, delete, import and export saved favorites",
          "Usage: ostrin-flow favorites list\n"
          "       ostrin-flow favorites show NAME\n"
@@ -122,6 +121,7 @@ const std::vector<Command>& commandTable() {
          "                    NAME.pqz when FILE is a folder)\n\n"
          "An unknown favorite or a refused file exits with 3 and one line on stderr.\n",
          favoritesCommand},
+        {"server", "one list of the print server as rows", kServerHelp, serverCommand},
     };
     return table;
 }

@@ -6,10 +6,7 @@
 #include "Commands.h"
 #include "JsonIO.h"
 #include "core/AtomicFile.h"
-#include "core/Bundle.h"
 #include "core/FileUtil.h"
-#include "core/LocalizedString.h"
-#include "core/PreferredLanguages.h"
 #include "favorites/AppPreference.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteFunctions.h"
@@ -21,19 +18,11 @@ namespace {
 
 using namespace ComQuorvantVelmar_Plugin;
 
-// The favorites folder comes from the extension bundle, and the name rules speak the
-// user's language.
-void useBundle(const GlobalOptions& options) {
-    auto bundle = Bundle::bundleWithPath(options.bundlePath);
-    if (!bundle) throw CommandError(ExitInput, "no extension bundle at " + options.bundlePath);
-    SetNSBundleForPrincipalBundle(bundle);
-    SetNSBundleForLocalizedString(bundle);
-    if (options.language) PreferredLanguages::setFirst(*options.language);
-}
-
-std::string favoritesFolder() {
+// The folder's names come from the extension bundle; without them there are no favorites.
+std::string favoritesFolder(const GlobalOptions& options) {
     const auto folders = AppPreference::sharedInstance().favoriteFolderPathArray(true);
-    if (folders.empty()) throw CommandError(ExitInput, "the extension bundle names no favorites folder");
+    if (folders.empty())
+        throw CommandError(ExitInput, options.bundlePath + ": no extension bundle naming the favorites folder");
     return folders.front();
 }
 
@@ -142,13 +131,13 @@ void copyFile(const std::string& source, const std::string& target) {
 }
 
 // The file joins the favorites unchanged, named after itself.
-int import(const std::string& file) {
+int import(const std::string& file, const std::string& folder) {
     if (!FileUtil::exists(file)) throw CommandError(ExitInput, "cannot read " + file + ": no such file");
     readableFavorite(file, file);
     const std::string name = *FavoriteNameWithPath(file);
     if (auto message = FavoriteItem::checkName(name))
         throw CommandError(ExitInput, "cannot import " + file + ": " + *message);
-    const std::string target = *FavoriteFile::pathWithName(name, favoritesFolder());
+    const std::string target = *FavoriteFile::pathWithName(name, folder);
     const auto items = favoriteItems();
     if (FileUtil::exists(target) ||
         std::any_of(items.begin(), items.end(), [&](const auto& item) { return item.name() == name; }))
@@ -173,18 +162,18 @@ int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments) {
     const std::string action = arguments.takeFirstPositional();
     if (action == "list") {
         arguments.positionals(0, 0);
-        useBundle(options);
+        favoritesFolder(options);
         return list(options);
     }
     if (action == "show" || action == "delete" || action == "import") {
         const std::string argument = arguments.positionals(1, 1).front();
-        useBundle(options);
+        const std::string folder = favoritesFolder(options);
         if (action == "show") return show(options, argument);
-        return action == "delete" ? remove(argument) : import(argument);
+        return action == "delete" ? remove(argument) : import(argument, folder);
     }
     if (action == "export") {
         const auto names = arguments.positionals(2, 2);
-        useBundle(options);
+        favoritesFolder(options);
         return exportFavorite(names[0], names[1]);
     }
     if (action.empty()) throw UsageError("favorites needs one of list, show, delete, import, export");

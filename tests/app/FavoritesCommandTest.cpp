@@ -156,3 +156,9 @@ TEST_F(FavoritesCommand, BadActionsAreUsageErrors) {
     EXPECT_EQ(run({"favorites", "export", "a"}).exitCode, 2);
     EXPECT_EQ(run({"favorites", "list", "extra"}).exitCode, 2);
 }
+
+TEST_F(FavoritesCommand, BundleWithoutFolderNamesIsAnInputError) {
+    fs::create_directories(file("Empty.bundle/Contents"));
+    expectInputError(run({"--resources", file("Empty.bundle"), "favorites", "list"}),
+                     file("Empty.bundle") + ": no extension bundle naming the favorites folder");
+}
