@@ -96,6 +96,31 @@ const std::vector<Command>& commandTable() {
          "typeNum is the press's type number; height and width are in cep (1/14400 inch).\n\n"
          "Exit status 3 for a name without a record (Custom and NoChange among them).\n",
          paperSizeCommand},
+        {"favorites", "list, show, delete, import and export saved favorites",
+         "Usage: ostrin-flow favorites list\n"
+         "       ostrin-flow favorites show NAME\n"
+         "       ostrin-flow favorites delete NAME\n"
+         "       ostrin-flow favorites import FILE\n"
+         "       ostrin-flow favorites export NAME FILE\n\n"
+         "Favorites are named sets of print settings, one NAME.pqz file each in\n"
+         "$XDG_CONFIG_HOME/Quorvant/<product>/<sub-folder>/favorite (~/.config by default).\n\n"
+         "  list              every favorite: name, comment and path, in the order the\n"
+         "                    favorites window shows them. --format text (default), json\n"
+         "                    ([{\"name\", \"comment\", \"path\"}]) or tsv (name, comment, path;\n"
+         "                    a backslash, tab or line break inside a field is written as\n"
+         "                    \\\\, \\t, \\n or \\r)\n"
+         "  show NAME         the favorite's comment and print options (internal keys).\n"
+         "                    --format text (default: the comment, then KEY=VALUE lines),\n"
+         "                    json (the options as one object) or tsv (KEY, VALUE)\n"
+         "  delete NAME       moves the favorite's file to the desktop trash\n"
+         "                    ($XDG_DATA_HOME/Trash), from where it can be restored\n"
+         "  import FILE       adds a favorite file, unchanged, under its own name; refused\n"
+         "                    when it is not a favorite of this printer, its name is not a\n"
+         "                    valid favorite name or a favorite of that name exists\n"
+         "  export NAME FILE  copies the favorite's file, unchanged, to FILE (into FILE as\n"
+         "                    NAME.pqz when FILE is a folder)\n\n"
+         "An unknown favorite or a refused file exits with 3 and one line on stderr.\n",
+         favoritesCommand},
         {"server", "one list of the print server as rows", kServerHelp, serverCommand},
     };
     return table;
