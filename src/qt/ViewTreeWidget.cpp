@@ -19,9 +19,9 @@ int pixels(double points) { return static_cast<int>(std::lround(points)); }
 // its frame gives no size.
 class ContainerWidget : public QWidget {
 public:
-    ContainerWidget(const ViewNode& view, QWidget* parent) : QWidget(parent), _view(view) {}
+    ContainerWidget(std::shared_ptr<const ViewNode> view, QWidget* parent) : QWidget(parent), _view(std::move(view)) {}
     QSize sizeHint() const override {
-        const ViewFrame& frame = _view.frame();
+        const ViewFrame& frame = _view->frame();
         if (frame.width > 0 && frame.height > 0) return {pixels(frame.width), pixels(frame.height)};
         QRect bounds;
         for (const QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    const ViewNode& _view;
+    std::shared_ptr<const ViewNode> _view;
 };
 
 }  // namespace
@@ -51,12 +51,12 @@ QWidget* ViewTreeWidget::render(const std::shared_ptr<ViewNode>& view, QWidget* 
         widget = renderTabs(tabs, parent);
     else
         widget = renderContainer(view, parent);
-    _widgets[view.get()] = widget;
+    _widgets[view.get()] = {view, widget};
     return widget;
 }
 
 QWidget* ViewTreeWidget::renderContainer(const std::shared_ptr<ViewNode>& view, QWidget* parent) {
-    auto* container = new ContainerWidget(*view, parent);
+    auto* container = new ContainerWidget(view, parent);
     for (const auto& subview : view->subviews()) render(subview, container);
     return container;
 }
@@ -82,9 +82,11 @@ QWidget* ViewTreeWidget::renderTabs(const std::shared_ptr<TabViewNode>& tabs, QW
     return tabWidget;
 }
 
+// A view the engine dropped may leave its address to a new one, which this tree never showed.
 QWidget* ViewTreeWidget::widgetFor(const ViewNode* view) const {
     const auto found = _widgets.find(view);
-    return found == _widgets.end() ? nullptr : found->second;
+    if (found == _widgets.end() || found->second.view.lock().get() != view) return nullptr;
+    return found->second.widget;
 }
 
 // Pages of tab containers are placed by their tab widget, not by their frames.

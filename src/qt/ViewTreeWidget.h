@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -18,7 +19,7 @@ class VORNUI;
 /// views become containers that place their sub-views at their frames, tab containers
 /// become tab widgets (or a plain stack of pages when tabless), controls become
 /// VORNUIWidgets. The engine keeps the tree; after it moved, hid or selected views, refresh
-/// shows that.
+/// shows that. Views added to the tree later are not shown; they need a new rendering.
 class ViewTreeWidget : public QWidget {
     Q_OBJECT
 public:
@@ -44,7 +45,11 @@ private:
 
     std::shared_ptr<ViewNode> _root;
     QWidget* _rootWidget = nullptr;
-    std::unordered_map<const ViewNode*, QWidget*> _widgets;
+    struct Rendered {
+        std::weak_ptr<ViewNode> view;
+        QPointer<QWidget> widget;
+    };
+    std::unordered_map<const ViewNode*, Rendered> _widgets;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin
