@@ -8,7 +8,9 @@
 #include "QtTestSupport.h"
 #include "qt/QtScreenshot.h"
 #include "qt/ViewTreeWidget.h"
+#include "settings_ui/NotifyUnit.h"
 #include "settings_ui/TabViewNode.h"
+#include "settings_ui/VORNMgr.h"
 
 using namespace QtWidgetTest;
 
@@ -40,12 +42,21 @@ std::string pageLabel(const std::string& label, const std::string& language) {
     return language == "de" ? german.at(label) : label;
 }
 
+// Registers control as a pane does, so that the rules grey out what they disable.
+void registerControl(VORNMgr& manager, const std::shared_ptr<VORNUI>& control) {
+    manager.addControl(control);
+    NotifyUnit::postNotificationName(control->mainKeyword());
+    for (const auto& child : control->childControls()) NotifyUnit::postNotificationName(child->mainKeyword());
+}
+
 // Stacks the controls of keywords from the top of page, each as high as its control says.
-std::shared_ptr<ViewNode> stackedPage(const std::vector<std::string>& keywords, const std::shared_ptr<Bundle>& bundle) {
+std::shared_ptr<ViewNode> stackedPage(const std::vector<std::string>& keywords, const std::shared_ptr<Bundle>& bundle,
+                                      VORNMgr& manager) {
     auto page = std::make_shared<ViewNode>();
     double y = margin;
     for (const std::string& keyword : keywords) {
         auto control = buildControl(keyword, bundle);
+        registerControl(manager, control);
         const double height = std::max(control->maxHeight(), VORNUIWidget(control).sizeHint().height() * 1.0);
         control->setFrame({margin, y, VORNUI::defaultWidth, height});
         page->addSubview(control);
@@ -87,13 +98,16 @@ void saveEveryTab(const std::shared_ptr<TabViewNode>& tabs, const std::string& n
 
 void saveSamples(const std::string& language) {
     Language chosen(language);
+    VORNMgr manager;
+    manager.setPdeResourcePath(productBundle()->resourcePath());
     std::vector<std::pair<std::string, std::shared_ptr<ViewNode>>> pages;
     for (const Page& page : productPages())
-        pages.emplace_back(pageLabel(page.label, language), stackedPage(page.keywords, productBundle()));
+        pages.emplace_back(pageLabel(page.label, language), stackedPage(page.keywords, productBundle(), manager));
     saveEveryTab(tabbed(pages), "controls-" + language);
     const std::vector<std::string> fixtureKeywords = {"GroupFinishing", "Density", "FeedDirection",
                                                       "HoldUntil",      "Copies",  "Password"};
-    saveEveryTab(tabbed({{pageLabel("Controls", language), stackedPage(fixtureKeywords, widgetsBundle())}}),
+    VORNMgr fixtureManager;
+    saveEveryTab(tabbed({{pageLabel("Controls", language), stackedPage(fixtureKeywords, widgetsBundle(), fixtureManager)}}),
                  "widgets-" + language);
 }
 
