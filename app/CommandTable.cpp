@@ -3,6 +3,54 @@
 #include "Commands.h"
 
 namespace OstrinFlowCommand {
+namespace {
+
+const char* const kServerHelp =
+    "Usage: ostrin-flow server LIST --host HOST [--type N] [--kind N] [--resource-set NAME]\n"
+    "\n"
+    "Fetches one list from the press's print server (port 8888 of HOST) and prints its\n"
+    "rows: by default tab-separated, one row a line (--format tsv); with --format json\n"
+    "one JSON array of rows, each an array of strings. In tsv a tab, line feed,\n"
+    "carriage return or backslash inside a value is written \\t, \\n, \\r or \\\\.\n"
+    "\n"
+    "LIST is one of:\n"
+    "  stackers             value and \"Type\" of each stacker\n"
+    "  feeders              value and \"Number\" of each feeder\n"
+    "  devices              value and key of each pre/post device setting\n"
+    "  pre-post-devices     \"INDEX-NAME\" and paper identifier of each custom paper\n"
+    "  job-folders          the shared folder, then name and name of each job folder\n"
+    "  spot-colors          category, name, ink type, L, a, b, C, M, Y, K of each spot colour\n"
+    "  spot-color-info      name and spot type of each spot colour\n"
+    "  color-subst          name, comment, time of each colour substitution table\n"
+    "  job-resources        name, comment, time of each job resource (--type, --resource-set)\n"
+    "  job-resource-sets    name, memo, time, toner target of each resource set\n"
+    "  calib-files          file name, comment, time, toner target of each calibration\n"
+    "  density-profiles     name, comment, time of each density adjustment profile\n"
+    "  trc-profiles         name, comment, time of each tone curve profile\n"
+    "  fonts                display name and font name; standard fonts, then optional fonts\n"
+    "  output-profiles      name, comment, time of each output profile (--kind)\n"
+    "  rgb-input-profiles   name, comment, time of each RGB input profile\n"
+    "  cmyk-input-profiles  name, comment, time of each CMYK input profile (--kind)\n"
+    "  device-link-files    name, comment, time of each device link\n"
+    "Columns follow the order in which the server lists the values of each record.\n"
+    "\n"
+    "Options:\n"
+    "  --host HOST          the printer's host: a host name, an IPv4 address or an IPv6\n"
+    "                       address (fe80::1%eth0, or [fe80::1%eth0]). HOST:PORT or\n"
+    "                       [IPv6]:PORT reaches a print server on another port than 8888.\n"
+    "  --type N             job-resources: the resource type (default 0)\n"
+    "  --resource-set NAME  job-resources: the resource set (default SYSTEM_DEFAULT)\n"
+    "  --kind N             output-profiles, cmyk-input-profiles: 0 colorimetry profiles\n"
+    "                       (default), 1 ICC profiles; other kinds list nothing\n"
+    "\n"
+    "The request waits at most 30 seconds. A list that the server refuses prints no rows\n"
+    "(-v shows the server's status). The language of the job folder list's shared folder\n"
+    "and of the font request follows --lang.\n"
+    "Exits 0 when the list was printed (it may be empty), 2 for a bad LIST or option or\n"
+    "without --host, 3 when the server's reply is not well-formed XML, 4 when the server\n"
+    "cannot be reached (no connection, no answer in time, authentication refused).\n";
+
+}  // namespace
 
 const std::vector<Command>& commandTable() {
     static const std::vector<Command> table = {
@@ -72,6 +120,32 @@ const std::vector<Command>& commandTable() {
          "Exit status 3 for an unreadable file, malformed JSON or input that is not a JSON\n"
          "object, or a missing extension bundle.\n",
          checkCommand},
+        {"favorites", "list, show, delete, import and export saved favorites",
+         "Usage: ostrin-flow favorites list\n"
+         "       ostrin-flow favorites show NAME\n"
+         "       ostrin-flow favorites delete NAME\n"
+         "       ostrin-flow favorites import FILE\n"
+         "       ostrin-flow favorites export NAME FILE\n\n"
+         "Favorites are named sets of print settings, one NAME.pqz file each in\n"
+         "$XDG_CONFIG_HOME/Quorvant/<product>/<sub-folder>/favorite (~/.config by default).\n\n"
+         "  list              every favorite: name, comment and path, in the order the\n"
+         "                    favorites window shows them. --format text (default), json\n"
+         "                    ([{\"name\", \"comment\", \"path\"}]) or tsv (name, comment, path;\n"
+         "                    a backslash, tab or line break inside a field is written as\n"
+         "                    \\\\, \\t, \\n or \\r)\n"
+         "  show NAME         the favorite's comment and print options (internal keys).\n"
+         "                    --format text (default: the comment, then KEY=VALUE lines),\n"
+         "                    json (the options as one object) or tsv (KEY, VALUE)\n"
+         "  delete NAME       moves the favorite's file to the desktop trash\n"
+         "                    ($XDG_DATA_HOME/Trash), from where it can be restored\n"
+         "  import FILE       adds a favorite file, unchanged, under its own name; refused\n"
+         "                    when it is not a favorite of this printer, its name is not a\n"
+         "                    valid favorite name or a favorite of that name exists\n"
+         "  export NAME FILE  copies the favorite's file, unchanged, to FILE (into FILE as\n"
+         "                    NAME.pqz when FILE is a folder)\n\n"
+         "An unknown favorite or a refused file exits with 3 and one line on stderr.\n",
+         favoritesCommand},
+        {"server", "one list of the print server as rows", kServerHelp, serverCommand},
     };
     return table;
 }

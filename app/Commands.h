@@ -18,4 +18,10 @@ int defaultsCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Checks a print option dictionary for options that lack their companion value.
 int checkCommand(const GlobalOptions& options, ArgumentList& arguments);
 
+/// Prints one list of the print server as rows.
+int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
+
+/// favorites list|show NAME|delete NAME|import FILE|export NAME FILE
+int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments);
+
 }  // namespace OstrinFlowCommand

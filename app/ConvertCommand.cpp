@@ -7,7 +7,6 @@
 #include "core/Diagnostics.h"
 #include "core/EncodingLibrary.h"
 #include "core/LocalizedString.h"
-#include "core/PreferredLanguages.h"
 #include "ppd/PrintOptionConverter.h"
 
 namespace OstrinFlowCommand {
@@ -27,12 +26,9 @@ Direction directionNamed(const std::optional<std::string>& name) {
     throw UsageError("--to takes canonical, internal, ppd-format or input-manager, not \"" + *name + "\"");
 }
 
-// The conversion table lives in the extension bundle, so the table-driven directions
-// need it registered as the plug-in's own bundle.
+// The conversion table lives in the extension bundle.
 void useBundle(const std::string& bundlePath) {
-    auto bundle = Bundle::bundleWithPath(bundlePath);
-    if (!bundle) throw CommandError(ExitInput, "no extension bundle at " + bundlePath);
-    SetNSBundleForPrincipalBundle(bundle);
+    if (!BSPrincipalBundle()) throw CommandError(ExitInput, "no extension bundle at " + bundlePath);
     if (!PrintOptionConverter::sharedInstance().convertTable())
         throw CommandError(ExitInput, "the extension bundle " + bundlePath + " has no keyword conversion table");
 }
@@ -81,7 +77,6 @@ int convertCommand(const GlobalOptions& options, ArgumentList& arguments) {
     const Direction direction = directionNamed(arguments.take("to"));
     options.formatAmong({"json"});
     const auto files = arguments.positionals(0, 1);
-    if (options.language) PreferredLanguages::setFirst(*options.language);
     PlistDictionary printOption = readJsonObject(files.empty() ? "-" : files.front());
     printJson(toJson(PlistValue(converted(direction, std::move(printOption), options.bundlePath))));
     return ExitSuccess;

@@ -4,18 +4,15 @@
 #include "TerminalAlertPresenter.h"
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
-#include "core/PreferredLanguages.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 
 namespace OstrinFlowCommand {
 
+// The command frame has registered the bundle of --resources, when there is one, and the
+// language of --lang.
 std::shared_ptr<PanePlugInMgr> openPaneManager(const GlobalOptions& options) {
-    if (options.language) PreferredLanguages::setFirst(*options.language);
-    auto bundle = Bundle::bundleWithPath(options.bundlePath);
-    if (!bundle) throw CommandError(ExitInput, "no extension bundle at " + options.bundlePath);
-    SetNSBundleForPrincipalBundle(bundle);
-    SetNSBundleForLocalizedString(bundle);
+    if (!BSPrincipalBundle()) throw CommandError(ExitInput, "no extension bundle at " + options.bundlePath);
     Alerts::setPresenter(TerminalAlertPresenter::forOptions(options));
     return PanePlugInMgr::sharedInstance();
 }

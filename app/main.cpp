@@ -8,7 +8,10 @@
 #include "CommandTable.h"
 #include "ExitCode.h"
 #include "GlobalOptions.h"
+#include "core/Bundle.h"
 #include "core/Diagnostics.h"
+#include "core/LocalizedString.h"
+#include "core/PreferredLanguages.h"
 
 using namespace OstrinFlowCommand;
 
@@ -33,11 +36,22 @@ const Command* findCommand(const std::string& name) {
     return nullptr;
 }
 
+// Every command speaks the chosen language and reads the chosen bundle's resources.
+void useLanguageAndBundle(const GlobalOptions& options) {
+    using namespace ComQuorvantVelmar_Plugin;
+    if (options.language) PreferredLanguages::setFirst(*options.language);
+    if (std::shared_ptr<Bundle> bundle = Bundle::bundleWithPath(options.bundlePath)) {
+        SetNSBundleForPrincipalBundle(bundle);
+        SetNSBundleForLocalizedString(bundle);
+    }
+}
+
 int run(int argc, char** argv) {
     ArgumentList arguments({argv + 1, argv + argc});
     const bool wantsHelp = arguments.takeFlag("help", "h");
     GlobalOptions options = GlobalOptions::take(arguments, argv[0]);
     ComQuorvantVelmar_Plugin::Diagnostics::setEcho(options.verbose);
+    useLanguageAndBundle(options);
     std::string name = arguments.takeFirstPositional();
     if (name.empty() || name == "help") {
         if (!wantsHelp && name.empty()) throw UsageError("no command given");

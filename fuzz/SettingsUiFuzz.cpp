@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
+#include "JsonIO.h"
 #include "core/Alert.h"
 #include "settings_ui/NotifyUnit.h"
 #include "settings_ui/VORNMgr.h"
@@ -28,24 +27,6 @@ public:
 private:
     int _count = 0;
 };
-
-PlistValue valueOf(const nlohmann::ordered_json& json) {
-    if (json.is_boolean()) return json.get<bool>();
-    if (json.is_number_integer()) return json.get<std::int64_t>();
-    if (json.is_number()) return json.get<double>();
-    if (json.is_string()) return json.get<std::string>();
-    if (json.is_array()) {
-        PlistArray array;
-        for (const auto& element : json) array.push_back(valueOf(element));
-        return array;
-    }
-    if (json.is_object()) {
-        PlistDictionary dictionary;
-        for (const auto& [key, element] : json.items()) dictionary.set(key, valueOf(element));
-        return dictionary;
-    }
-    return nullptr;
-}
 
 std::vector<std::string> valuesNamedBy(const PlistDictionary& description) {
     std::vector<std::string> values;
@@ -87,7 +68,7 @@ void exercise(VORNMgr& manager, VORNUI& control, const std::vector<std::string>&
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto json = nlohmann::ordered_json::parse(data, data + size, nullptr, false);
     if (json.is_discarded() || !json.is_object()) return 0;
-    const PlistValue parsed = valueOf(json);
+    const PlistValue parsed = OstrinFlowCommand::fromJson(json);
     Alerts::setPresenter(std::make_shared<AlternatingPresenter>());
     VORNMgr::setNetworkDataProbe([] { return true; });
     {

@@ -2,6 +2,7 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -44,11 +45,9 @@ PlistValue fromDictionary(plist_t node) {
 }
 
 std::string stringOf(plist_t node) {
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    std::string result = text ? text : "";
-    free(text);
-    return result;
+    uint64_t length = 0;
+    const char* text = plist_get_string_ptr(node, &length);
+    return text ? std::string(text, length) : std::string();
 }
 
 PlistValue fromNode(plist_t node) {
@@ -123,15 +122,39 @@ plist_t toNode(const PlistValue& value) {
     return nullptr;
 }
 
+// libplist 2.2 aborts the process when a string or key holding a NUL byte is read back.
+// Valid XML never holds one, so such text is refused; a binary list is rewritten as XML
+// without the NUL bytes of its texts (base64 data holds none) and read from there.
+PlistHandle parseSafely(std::string_view bytes) {
+    const auto length = static_cast<uint32_t>(bytes.size());
+    plist_t root = nullptr;
+    if (!plist_is_binary(bytes.data(), length)) {
+        if (bytes.find('\0') != std::string_view::npos) return nullptr;
+        plist_from_xml(bytes.data(), length, &root);
+        return PlistHandle(root);
+    }
+    plist_from_bin(bytes.data(), length, &root);
+    PlistHandle binary(root);
+    if (!binary) return nullptr;
+    char* xml = nullptr;
+    uint32_t xmlLength = 0;
+    plist_to_xml(binary.get(), &xml, &xmlLength);
+    if (!xml) return nullptr;
+    std::string text(xml, xmlLength);
+    plist_to_xml_free(xml);
+    text.erase(std::remove(text.begin(), text.end(), '\0'), text.end());
+    root = nullptr;
+    plist_from_xml(text.data(), static_cast<uint32_t>(text.size()), &root);
+    return PlistHandle(root);
+}
+
 }  // namespace
 
 std::optional<PlistValue> parse(std::string_view bytes) {
     if (bytes.empty() || bytes.size() > std::numeric_limits<uint32_t>::max()) return std::nullopt;
-    plist_t root = nullptr;
-    plist_from_memory(bytes.data(), static_cast<uint32_t>(bytes.size()), &root);
+    PlistHandle root = parseSafely(bytes);
     if (!root) return std::nullopt;
-    PlistHandle handle(root);
-    return fromNode(root);
+    return fromNode(root.get());
 }
 
 std::optional<PlistValue> readFile(const std::string& path) {

@@ -1,7 +1,7 @@
 #include "core/MaxBytesFormatterWithEscape.h"
 #include "core/MaxLengthFormatterWithEscape.h"
 #include "core/TextScrambling.h"
-#include "panes/ControlHelpers.h"
+#include "panes/PlainControlHelpers.h"
 #include "panes/PaneValueText_p.h"
 #include "panes/PanePlugInMgr.h"
 #include "panes/PlainButton.h"

@@ -3,9 +3,10 @@
 #include "core/Bundle.h"
 #include "core/Diagnostics.h"
 #include "core/LocalizedString.h"
-#include "panes/ControlHelpers.h"
+#include "core/SimpleAlert.h"
+#include "favorites/AppPreference.h"
+#include "panes/PlainControlHelpers.h"
 #include "panes/PanePlugInMgr.h"
-#include "panes/ProfileFile.h"
 #include "settings_ui/VORNMgr.h"
 #include "settings_ui/VORNUI.h"
 
@@ -25,14 +26,6 @@ std::string withNumber(const std::string& format, int number) {
     const std::size_t directive = format.find("%d");
     if (directive == std::string::npos) return format;
     return format.substr(0, directive) + std::to_string(number) + format.substr(directive + 2);
-}
-
-void showException(const std::string& title, const std::string& reason) {
-    AlertRequest request;
-    request.messageText = title;
-    request.informativeText = reason;
-    request.style = AlertRequest::Style::Critical;
-    Alerts::runModal(request);
 }
 
 }  // namespace
@@ -79,9 +72,9 @@ bool PanePlugInMgr::restorePrintOptionValues(const PlistDictionary* printOption)
         _vornMgr->setSettings(*printOption);
         _restoreIntoPanes();
     } catch (const std::exception& exception) {
-        showException(_localized("Alert_Exception"), exception.what());
+        ExceptionAlert("Alert_Exception", exception);
     } catch (...) {
-        showException(_localized("Alert_Exception"), "unknown exception");
+        SimpleAlertObject("Alert_Exception", "unknown exception");
     }
     return true;
 }
@@ -99,7 +92,7 @@ void PanePlugInMgr::_restoreIntoPanes() {
 }
 
 std::optional<PlistDictionary> PanePlugInMgr::dictionaryOfCurrentProfile() const {
-    return ProfileFile::profileDictionaryWithContentsOfFile(_currentProfilePath);
+    return AppPreference::sharedInstance().profileDictionaryWithContentsOfFile(_currentProfilePath);
 }
 
 void PanePlugInMgr::updateProfileByBundleName(const std::string& name, const std::string& profilePath) {

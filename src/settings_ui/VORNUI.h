@@ -257,6 +257,10 @@ public:
     void radioAction();
     void sliderAction();
     void stepperAction();
+    /// The stepper's arrow pressed steps times (down when negative): the stepper moves from
+    /// the number shown in the field by its increment within its limits, then stepperAction
+    /// runs. Nothing for a control without a stepper.
+    void stepperStep(int steps);
     void textAction();
     void buttonAction();
     void datePickerAction();

@@ -61,6 +61,14 @@ void VORNUI::stepperAction() {
     if (!_vornkeyword.empty()) NotifyUnit::postNotificationName(_vornkeyword);
 }
 
+// The stepper starts from what the field shows, so a number the user typed is where the
+// next step begins.
+void VORNUI::stepperStep(int steps) {
+    if (!_stepper || !_textField) return;
+    setStepperValue(_textField->doubleValueInRange() + steps * _stepper->increment);
+    stepperAction();
+}
+
 // The field announces the end of an edit itself; its action only refreshes the value.
 void VORNUI::textAction() { getStringValue(); }
 

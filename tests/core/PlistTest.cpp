@@ -61,6 +61,25 @@ TEST(PlistIO, MalformedOrEmptyInputAnswersNothing) {
     EXPECT_FALSE(PlistIO::readFile("/nonexistent/file.plist").has_value());
 }
 
+TEST(PlistIO, TextWithANulByteNeverAbortsTheReader) {
+    using namespace std::string_literals;
+    const std::string xml =
+        "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>a</key><string>x\0y</string>"
+        "</dict></plist>"s;
+    EXPECT_FALSE(PlistIO::parse(xml).has_value());
+
+    std::string binary = PlistIO::serialize(PlistDictionary{{"aQb", "yQz"}}, PlistIO::Format::Binary);
+    for (char& byte : binary)
+        if (byte == 'Q') byte = '\0';
+    auto parsed = PlistIO::parse(binary);
+    ASSERT_TRUE(parsed && parsed->dictionary());
+    // An ASCII text ends at its NUL byte.
+    EXPECT_EQ(parsed->dictionary()->stringFor("a", ""), "y");
+
+    // A UTF-16 text whose characters include U+0000, found by fuzzing.
+    EXPECT_TRUE(PlistIO::readFile(OstrinTest::dataPath("core/utf16-nul-string.bplist")).has_value());
+}
+
 TEST(PlistIO, NullEntriesAreLeftOutWhenWriting) {
     PlistDictionary dictionary{{"kept", "yes"}, {"dropped", nullptr}};
     auto parsed = PlistIO::parse(PlistIO::serialize(dictionary));

@@ -2,9 +2,8 @@
 
 #include "PaneTestSupport.h"
 #include "TestSupport.h"
-#include "panes/ControlHelpers.h"
+#include "panes/PlainControlHelpers.h"
 #include "panes/PlainButton.h"
-#include "panes/ProfileFile.h"
 #include "settings_ui/VORNMgr.h"
 #include "settings_ui/VORNUI.h"
 
@@ -124,16 +123,6 @@ TEST(PaneValues, ProfileMenusAreNumberedAndNamedFromTheCurrentProfile) {
     manager.updateProfilesOfAllBundles("");
     EXPECT_EQ(manager.currentProfilePath(), "");
     EXPECT_EQ(manager.dictionaryOfCurrentProfile(), std::nullopt);
-}
-
-TEST(PaneValues, ProfileFileLinesLoseTheirLastTwoCharacters) {
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("Latin.cps");
-    // "Grün" in DOS Latin 1, and a last line without its line end.
-    OstrinTest::writeFile(path, "A=1\r\nB=2=3\r\nC=Gr\x81n\r\nD=last");
-    EXPECT_EQ(ProfileFile::profileDictionaryWithContentsOfFile(path),
-              (PlistDictionary{{"A", "1"}, {"B", "2=3"}, {"C", "Grün"}, {"D", "la"}}));
-    EXPECT_EQ(ProfileFile::profileDictionaryWithContentsOfFile(folder.file("missing.cps")), std::nullopt);
 }
 
 TEST(PaneValues, EnabledStatesFollowTheServerSetting) {

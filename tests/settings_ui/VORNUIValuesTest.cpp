@@ -274,6 +274,25 @@ TEST(NumberField, StepperWritesItsNumberInTheUsersForm) {
     EXPECT_DOUBLE_EQ(zoom->stepper()->value, 400);
 }
 
+TEST(NumberField, StepperStartsFromTheNumberTypedAndStaysInRange) {
+    auto crease = buildControl("CreasePosition1");
+    auto staple = buildControl("StapleMode");
+    NotificationRecorder recorder({"CreasePosition1", "StapleMode"});
+    crease->textField()->setEditedText("7.5");
+    crease->stepperStep(1);
+    EXPECT_EQ(crease->textField()->stringValue(), "7.51");
+    crease->stepperStep(-3);
+    EXPECT_EQ(crease->getStringValue(), "7.48");
+    crease->textField()->setEditedText("10.25");
+    crease->stepperStep(1);
+    EXPECT_EQ(crease->getStringValue(), "10.25");
+    crease->textField()->setEditedText("0.1");
+    crease->stepperStep(1);
+    EXPECT_EQ(crease->getStringValue(), "0.51");
+    staple->stepperStep(1);
+    EXPECT_EQ(recorder.names(), std::vector<std::string>(4, "CreasePosition1"));
+}
+
 TEST(Actions, ButtonAndDisclosureTriangle) {
     auto copies = buildControl("NumCopies");
     NotificationRecorder recorder({"NumCopies_Button"});

@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "CommandRunner.h"
+#include "TestSupport.h"
+
+namespace fs = std::filesystem;
+using OstrinTest::dataPath;
+
+namespace {
+
+// Each test has its own configuration and data folders, so favorites and the trash are
+// private to it.
+class FavoritesCommand : public ::testing::Test {
+protected:
+    OstrinTest::CommandResult run(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"--lang", "en"});
+        return OstrinTest::runCommand(
+            arguments, {},
+            {"XDG_CONFIG_HOME=" + _home.file("config"), "XDG_DATA_HOME=" + _home.file("data")});
+    }
+
+    // The favorites folder the command uses, created by a first listing.
+    std::string favoritesFolder() {
+        if (_folder.empty()) {
+            EXPECT_EQ(run({"favorites", "list"}).exitCode, 0);
+            for (const auto& entry : fs::recursive_directory_iterator(_home.file("config")))
+                if (entry.is_directory() && entry.path().filename() == "favorite")
+                    _folder = entry.path().string();
+        }
+        return _folder;
+    }
+
+    std::string addFavorite(const std::string& fixture, const std::string& name) {
+        const std::string path = favoritesFolder() + "/" + name + ".pqz";
+        fs::copy_file(dataPath("favorites/" + fixture), path);
+        return path;
+    }
+
+    std::string file(const std::string& name) const { return _home.file(name); }
+
+private:
+    OstrinTest::TemporaryDirectory _home;
+    std::string _folder;
+};
+
+void expectInputError(const OstrinTest::CommandResult& result, const std::string& message) {
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err, "ostrin-flow: " + message + "\n");
+}
+
+}  // namespace
+
+TEST_F(FavoritesCommand, ListsFavoritesSortedInEachFormat) {
+    ASSERT_NE(favoritesFolder(), "");
+    EXPECT_EQ(run({"favorites", "list"}).out, "");
+    const std::string proofs = addFavorite("saved-layout.pqz", "Proofs");
+    const std::string booklet = addFavorite("minimal.pqz", "Booklet");
+    OstrinTest::writeFile(favoritesFolder() + "/notes.txt", "x");
+    EXPECT_EQ(run({"favorites", "list"}).out,
+              "Booklet\n  path: " + booklet +
+                  "\nProofs\n  comment: Proofs for the client\n  path: " + proofs + "\n");
+    EXPECT_EQ(run({"--format", "tsv", "favorites", "list"}).out,
+              "Booklet\t\t" + booklet + "\nProofs\tProofs for the client\t" + proofs + "\n");
+    EXPECT_EQ(run({"--format", "json", "favorites", "list"}).out,
+              "[\n  {\n    \"name\": \"Booklet\",\n    \"comment\": \"\",\n    \"path\": \"" + booklet +
+                  "\"\n  },\n  {\n    \"name\": \"Proofs\",\n    \"comment\": \"Proofs for the client\",\n"
+                  "    \"path\": \"" +
+                  proofs + "\"\n  }\n]\n");
+    EXPECT_EQ(run({"--format", "lp", "favorites", "list"}).exitCode, 2);
+}
+
+TEST_F(FavoritesCommand, ShowsCommentAndOptions) {
+    addFavorite("saved-layout.pqz", "Proofs");
+    EXPECT_EQ(run({"favorites", "show", "Proofs"}).out,
+              "Comment: Proofs for the client\nDuplexMode=DuplexNoTumble\nNumCopies=3\n"
+              "StapleLocation=SinglePortrait\n");
+    EXPECT_EQ(run({"--format", "json", "favorites", "show", "Proofs"}).out,
+              "{\n  \"DuplexMode\": \"DuplexNoTumble\",\n  \"NumCopies\": \"3\",\n"
+              "  \"StapleLocation\": \"SinglePortrait\"\n}\n");
+    EXPECT_EQ(run({"--format", "tsv", "favorites", "show", "Proofs"}).out,
+              "DuplexMode\tDuplexNoTumble\nNumCopies\t3\nStapleLocation\tSinglePortrait\n");
+}
+
+TEST_F(FavoritesCommand, ShowsAnEucJpFavoriteInUtf8) {
+    addFavorite("euc-jp.pqz", "会議");
+    EXPECT_EQ(run({"favorites", "show", "会議"}).out,
+              "Comment: 会議用の両面印刷\nJobName=見積書\nDuplexMode=DuplexNoTumble\n");
+}
+
+TEST_F(FavoritesCommand, UnknownOrUnreadableFavoriteExitsThree) {
+    addFavorite("other-device.pqz", "Other");
+    expectInputError(run({"favorites", "show", "Nope"}), "unknown favorite \"Nope\"");
+    expectInputError(run({"favorites", "delete", "Nope"}), "unknown favorite \"Nope\"");
+    expectInputError(run({"favorites", "export", "Nope", file("x.pqz")}), "unknown favorite \"Nope\"");
+    expectInputError(run({"favorites", "show", "Other"}),
+                     "favorite \"Other\" is not a favorite file this printer can use");
+}
+
+TEST_F(FavoritesCommand, DeleteMovesTheFileToTheTrash) {
+    const std::string path = addFavorite("saved-layout.pqz", "Proofs");
+    const auto result = run({"favorites", "delete", "Proofs"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_FALSE(fs::exists(path));
+    EXPECT_EQ(OstrinTest::readFile(file("data/Trash/files/Proofs.pqz")),
+              OstrinTest::readFile(dataPath("favorites/saved-layout.pqz")));
+    EXPECT_NE(OstrinTest::readFile(file("data/Trash/info/Proofs.pqz.trashinfo")).find("Path=" + path + "\n"),
+              std::string::npos);
+    EXPECT_EQ(run({"favorites", "list"}).out, "");
+}
+
+TEST_F(FavoritesCommand, ImportCopiesTheFileUnchanged) {
+    ASSERT_NE(favoritesFolder(), "");
+    fs::copy_file(dataPath("favorites/windows-latin.pqz"), file("Café.pqz"));
+    const auto result = run({"favorites", "import", file("Café.pqz")});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(OstrinTest::readFile(favoritesFolder() + "/Café.pqz"),
+              OstrinTest::readFile(dataPath("favorites/windows-latin.pqz")));
+    EXPECT_EQ(run({"--format", "tsv", "favorites", "list"}).out,
+              "Café\tCafé für Müller – 5 €\t" + favoritesFolder() + "/Café.pqz\n");
+    expectInputError(run({"favorites", "import", file("Café.pqz")}),
+                     "cannot import " + file("Café.pqz") + ": a favorite named \"Café\" exists");
+}
+
+TEST_F(FavoritesCommand, ImportRefusesFilesThatAreNoFavorite) {
+    ASSERT_NE(favoritesFolder(), "");
+    expectInputError(run({"favorites", "import", dataPath("favorites/other-device.pqz")}),
+                     dataPath("favorites/other-device.pqz") + " is not a favorite file this printer can use");
+    expectInputError(run({"favorites", "import", file("missing.pqz")}),
+                     "cannot read " + file("missing.pqz") + ": no such file");
+    fs::copy_file(dataPath("favorites/minimal.pqz"), file("Default Settings.pqz"));
+    expectInputError(run({"favorites", "import", file("Default Settings.pqz")}),
+                     "cannot import " + file("Default Settings.pqz") +
+                         ": This name belongs to the default settings. Please choose another name.");
+    EXPECT_EQ(std::distance(fs::directory_iterator(favoritesFolder()), fs::directory_iterator()), 0);
+}
+
+TEST_F(FavoritesCommand, ExportCopiesTheFileToAFileOrFolder) {
+    addFavorite("euc-jp.pqz", "Meeting");
+    EXPECT_EQ(run({"favorites", "export", "Meeting", file("out.pqz")}).exitCode, 0);
+    EXPECT_EQ(OstrinTest::readFile(file("out.pqz")), OstrinTest::readFile(dataPath("favorites/euc-jp.pqz")));
+    fs::create_directory(file("shared"));
+    EXPECT_EQ(run({"favorites", "export", "Meeting", file("shared")}).exitCode, 0);
+    EXPECT_EQ(OstrinTest::readFile(file("shared/Meeting.pqz")),
+              OstrinTest::readFile(dataPath("favorites/euc-jp.pqz")));
+    expectInputError(run({"favorites", "export", "Meeting", file("missing/out.pqz")}),
+                     "cannot write " + file("missing/out.pqz"));
+}
+
+TEST_F(FavoritesCommand, BadActionsAreUsageErrors) {
+    EXPECT_EQ(run({"favorites"}).exitCode, 2);
+    EXPECT_EQ(run({"favorites", "rename", "a"}).exitCode, 2);
+    EXPECT_EQ(run({"favorites", "show"}).exitCode, 2);
+    EXPECT_EQ(run({"favorites", "export", "a"}).exitCode, 2);
+    EXPECT_EQ(run({"favorites", "list", "extra"}).exitCode, 2);
+}
+
+TEST_F(FavoritesCommand, BundleWithoutFolderNamesIsAnInputError) {
+    fs::create_directories(file("Empty.bundle/Contents"));
+    expectInputError(run({"--resources", file("Empty.bundle"), "favorites", "list"}),
+                     file("Empty.bundle") + ": no extension bundle naming the favorites folder");
+}

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <regex>
+
+#include "TestSupport.h"
+#include "favorites/Trash.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+namespace fs = std::filesystem;
+
+namespace {
+
+// Points the user's data folder at a private folder for one test.
+class PrivateDataHome {
+public:
+    explicit PrivateDataHome(const std::string& path) { ::setenv("XDG_DATA_HOME", path.c_str(), 1); }
+    ~PrivateDataHome() { ::unsetenv("XDG_DATA_HOME"); }
+};
+
+std::string recordOf(const std::string& trash, const std::string& name) {
+    return OstrinTest::readFile(trash + "/info/" + name + ".trashinfo");
+}
+
+const std::regex recordPattern(
+    "\\[Trash Info\\]\nPath=(.*)\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n");
+
+}  // namespace
+
+TEST(Trash, MovesTheFileAndWritesItsRecord) {
+    OstrinTest::TemporaryDirectory home;
+    PrivateDataHome dataHome(home.file("data"));
+    fs::create_directory(home.file("favorite"));
+    const std::string path = home.file("favorite/Proofs 100% ü.pqz");
+    OstrinTest::writeFile(path, "favorite bytes");
+    const auto moved = Trash::moveToTrash(path);
+    const std::string trash = home.file("data/Trash");
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(*moved, trash + "/files/Proofs 100% ü.pqz");
+    EXPECT_FALSE(fs::exists(path));
+    EXPECT_EQ(OstrinTest::readFile(*moved), "favorite bytes");
+    std::smatch match;
+    const std::string record = recordOf(trash, "Proofs 100% ü.pqz");
+    ASSERT_TRUE(std::regex_match(record, match, recordPattern)) << record;
+    EXPECT_EQ(match[1].str(), home.path() + "/favorite/Proofs%20100%25%20%C3%BC.pqz");
+}
+
+TEST(Trash, SecondItemOfTheSameNameGetsANewName) {
+    OstrinTest::TemporaryDirectory home;
+    PrivateDataHome dataHome(home.file("data"));
+    fs::create_directories(home.file("a"));
+    fs::create_directories(home.file("b"));
+    OstrinTest::writeFile(home.file("a/Proofs.pqz"), "first");
+    OstrinTest::writeFile(home.file("b/Proofs.pqz"), "second");
+    const auto first = Trash::moveToTrash(home.file("a/Proofs.pqz"));
+    const auto second = Trash::moveToTrash(home.file("b/Proofs.pqz"));
+    const std::string trash = home.file("data/Trash");
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(*second, trash + "/files/Proofs.2.pqz");
+    EXPECT_EQ(OstrinTest::readFile(*first), "first");
+    EXPECT_EQ(OstrinTest::readFile(*second), "second");
+    std::smatch match;
+    const std::string record = recordOf(trash, "Proofs.2.pqz");
+    ASSERT_TRUE(std::regex_match(record, match, recordPattern));
+    EXPECT_EQ(match[1].str(), home.path() + "/b/Proofs.pqz");
+}
+
+TEST(Trash, CopiesAcrossFileSystemsAndRemovesTheOriginal) {
+    // /dev/shm is a memory file system apart from the temporary folder, so the move cannot
+    // be a rename there.
+    OstrinTest::TemporaryDirectory home;
+    const std::string dataFolder = "/dev/shm/ostrin-trash-test-" + std::to_string(::getpid());
+    struct RemoveAtEnd {
+        std::string path;
+        ~RemoveAtEnd() { fs::remove_all(path); }
+    } cleanUp{dataFolder};
+    PrivateDataHome dataHome(dataFolder);
+    const std::string path = home.file("Proofs.pqz");
+    OstrinTest::writeFile(path, "favorite bytes");
+    ::chmod(path.c_str(), 0640);
+    const auto moved = Trash::moveToTrash(path);
+    ASSERT_TRUE(moved);
+    EXPECT_FALSE(fs::exists(path));
+    EXPECT_EQ(OstrinTest::readFile(*moved), "favorite bytes");
+    EXPECT_EQ(fs::status(*moved).permissions() & fs::perms::all,
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_TRUE(fs::exists(dataFolder + "/Trash/info/Proofs.pqz.trashinfo"));
+}
+
+TEST(Trash, MissingFileIsNotRecorded) {
+    OstrinTest::TemporaryDirectory home;
+    PrivateDataHome dataHome(home.file("data"));
+    EXPECT_FALSE(Trash::moveToTrash(home.file("missing.pqz")));
+    EXPECT_FALSE(Trash::moveToTrash(""));
+    EXPECT_FALSE(fs::exists(home.file("data/Trash/info/missing.pqz.trashinfo")));
+}
+
+TEST(Trash, UnrecordedItemInTheTrashIsNeverReplaced) {
+    OstrinTest::TemporaryDirectory home;
+    PrivateDataHome dataHome(home.file("data"));
+    fs::create_directories(home.file("data/Trash/files"));
+    // A folder of that name in the trash that was never recorded: the item takes the next name.
+    fs::create_directories(home.file("data/Trash/files/Proofs.pqz"));
+    OstrinTest::writeFile(home.file("Proofs.pqz"), "x");
+    const auto moved = Trash::moveToTrash(home.file("Proofs.pqz"));
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(*moved, home.file("data/Trash/files/Proofs.2.pqz"));
+    EXPECT_TRUE(fs::is_directory(home.file("data/Trash/files/Proofs.pqz")));
+    EXPECT_FALSE(fs::exists(home.file("data/Trash/info/Proofs.pqz.trashinfo")));
+}

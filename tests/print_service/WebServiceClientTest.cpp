@@ -1,0 +1,280 @@
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+
+#include <string>
+#include <vector>
+
+#include "core/Bundle.h"
+#include "core/Diagnostics.h"
+#include "core/LocalizedString.h"
+#include "core/PreferredLanguages.h"
+#include "print_service/LoopbackHttpServer.h"
+#include "print_service/SoapReplies.h"
+#include "print_service/WebServiceClient.h"
+
+using namespace OstrinTest;
+using ComQuorvantVelmar_Plugin::ServerRowList;
+using ComQuorvantVelmar_Plugin::WebServiceClient;
+
+namespace {
+
+using Rows = ServerRowList;
+
+// A client aimed at server, with a short timeout.
+WebServiceClient clientFor(const LoopbackHttpServer& server) {
+    WebServiceClient client;
+    client.setPort(server.port());
+    client.setTimeout(5);
+    return client;
+}
+
+// Serves each reply in turn and answers what the list method made of it.
+template <class Method>
+std::optional<Rows> rowsFor(const std::string& reply, Method method) {
+    LoopbackHttpServer server({CannedReply::soap(reply)});
+    WebServiceClient client = clientFor(server);
+    return method(client, "127.0.0.1");
+}
+
+// Collects the diagnostic lines written while it lives.
+class LogLines {
+public:
+    LogLines() {
+        ComQuorvantVelmar_Plugin::Diagnostics::setObserver(
+            [this](std::string_view line) { lines.emplace_back(line); });
+    }
+    ~LogLines() { ComQuorvantVelmar_Plugin::Diagnostics::setObserver({}); }
+    bool contains(std::string_view line) const {
+        for (const std::string& logged : lines)
+            if (logged == line) return true;
+        return false;
+    }
+    std::vector<std::string> lines;
+};
+
+std::string withStatus(std::string reply, std::string_view status) {
+    reply.replace(reply.find("<status>OK</status>"), 19, "<status>" + std::string(status) + "</status>");
+    return reply;
+}
+
+std::string jobResourceReply(std::string_view statusAndDetail) {
+    return soapReply(R"(<GetJobResourceListResponse xmlns="qv:vorn"><resInfo>)"
+                     R"(<item xsi:type="q1:PropDict" xmlns:q1="qv:vorn"><item key="JobRecListName">)"
+                     R"(<val>Booklet</val></item></item></resInfo>)" +
+                     std::string(statusAndDetail) + "</GetJobResourceListResponse>");
+}
+
+}  // namespace
+
+TEST(WebServiceClient, StackersAndFeedersTakePlainItemsOfTheirKeyValueFirst) {
+    auto stackers = rowsFor(replyFixture("stackers.xml"), [](auto& c, auto a) { return c.getStackerInfoList(a); });
+    EXPECT_EQ(stackers, (Rows{{"StackerA", "Type"}, {"LargeCapacity", "Type"}, {"3", "Type"}}));
+    auto feeders = rowsFor(replyFixture("feeders.xml"), [](auto& c, auto a) { return c.getFeederInfoList(a); });
+    EXPECT_EQ(feeders, (Rows{{"1", "Number"}, {"3", "Number"}}));
+}
+
+TEST(WebServiceClient, DeviceListIsEveryPlainItemOfTheDictionary) {
+    auto rows = rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getDeviceList(a); });
+    EXPECT_EQ(rows, (Rows{{"PU-501", "Puncher"}, {"FD-503", "Folder"}, {"2", "Stacker"}}));
+}
+
+TEST(WebServiceClient, CustomPaperRowsUseTheLastIndexSeen) {
+    auto rows =
+        rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getPrePostDeviceList(a); });
+    EXPECT_EQ(rows, (Rows{{"3-Thick", "Custom_Off_Uncoated_Off_None_3"},
+                          {"7-Coated Gloss", "Custom_Off_Uncoated_Off_None_7"},
+                          {"7-Late", "Custom_Off_Uncoated_Off_None_7"}}));
+}
+
+TEST(WebServiceClient, JobFoldersStartWithTheLocalizedSharedFolder) {
+    using namespace ComQuorvantVelmar_Plugin;
+    SetNSBundleForLocalizedString(Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR));
+    PreferredLanguages::setFirst("de");
+    auto rows = rowsFor(replyFixture("job_folders.xml"), [](auto& c, auto a) { return c.getJobFolderList(a); });
+    EXPECT_EQ(rows, (Rows{{"Gemeinsam", ""}, {"Hot Folder A", "Hot Folder A"}, {"Proofs", "Proofs"}}));
+
+    PreferredLanguages::setFirst("en");
+    const std::string empty =
+        soapReply(R"(<GetJobFolderListResponse xmlns="qv:vorn"><dict>)"
+                  R"(<item key="FolderArray"><val xsi:type="q:PropArray" xmlns:q="qv:vorn"/>)"
+                  R"(</item></dict><status>OK</status></GetJobFolderListResponse>)");
+    EXPECT_EQ(rowsFor(empty, [](auto& c, auto a) { return c.getJobFolderList(a); }), (Rows{{"Shared", ""}}));
+    SetNSBundleForLocalizedString(nullptr);
+    PreferredLanguages::setFirst("");
+}
+
+TEST(WebServiceClient, SpotColorListsLeaveOutRecordsWithoutTheirKeys) {
+    auto spots =
+        rowsFor(replyFixture("cms_spot.xml"), [](auto& c, auto a) { return c.getCmsSpotGetAllListData(a); });
+    EXPECT_EQ(spots, (Rows{{"Rubine Red", "PANTONE", "0", "45.2", "71.5", "4.1", "0", "100", "15", "4"},
+                           {"Custom", "Brand Blue", "1", "30", "10", "-60", "100", "70", "0", "0"}}));
+    auto info = rowsFor(replyFixture("spot_color_info.xml"),
+                        [](auto& c, auto a) { return c.getSpotColorAllInfoListData(a); });
+    EXPECT_EQ(info, (Rows{{"Rubine Red", "Pantone"}, {"Custom", "Brand Blue"}}));
+}
+
+TEST(WebServiceClient, ColumnsFollowTheServerOrderWithEmptyTextForMissingValues) {
+    auto substitutions =
+        rowsFor(replyFixture("color_subst.xml"), [](auto& c, auto a) { return c.getColorSubstList(a); });
+    EXPECT_EQ(
+        substitutions,
+        (Rows{{"Office RGB", "Logo greens", "2023/04/11 09:12:44"}, {"Proof", "", "2023/05/02 17:00:00"}, {}}));
+    auto density = rowsFor(replyFixture("density_profiles.xml"),
+                           [](auto& c, auto a) { return c.getDensityAdjustProfileList(a); });
+    EXPECT_EQ(density, (Rows{{"Default", "as shipped", "2023/01/01 00:00:00"},
+                             {"2023/05/05 05:05:05", "Light", "minus 5%"}}));
+    auto curves =
+        rowsFor(replyFixture("trc_profiles.xml"), [](auto& c, auto a) { return c.getUserTrcProfileList(a); });
+    EXPECT_EQ(curves, (Rows{{"Linear", "identity", "2023/01/01 00:00:00"}}));
+    auto rgb = rowsFor(replyFixture("rgb_input_profiles.xml"),
+                       [](auto& c, auto a) { return c.getRGBInputProfileFileList(a); });
+    EXPECT_EQ(rgb, (Rows{{"sRGB IEC61966-2.1", "default", "2022/01/01 00:00:00"},
+                         {"Adobe RGB (1998)", "2022/01/01 00:00:00"}}));
+    auto links =
+        rowsFor(replyFixture("device_links.xml"), [](auto& c, auto a) { return c.getDeviceLinkFileList(a); });
+    EXPECT_EQ(links, (Rows{{"FOGRA39 to press", "link", "2023/02/02 02:02:02"},
+                           {"second", "GRACoL to press", "2023/02/03 03:03:03"}}));
+}
+
+TEST(WebServiceClient, TonerTargetIsAlwaysTheLastColumn) {
+    auto sets =
+        rowsFor(replyFixture("job_resource_sets.xml"), [](auto& c, auto a) { return c.getJobResourceSetList(a); });
+    EXPECT_EQ(sets, (Rows{{"SYSTEM_DEFAULT", "factory", "2023/01/01 00:00:00", "CMYK"},
+                          {"Coated", "gloss stock", "2023/02/03 08:15:00", "CMYK+Clear"}}));
+    auto calibrations =
+        rowsFor(replyFixture("calib_files.xml"), [](auto& c, auto a) { return c.getCalibFileList(a); });
+    EXPECT_EQ(calibrations, (Rows{{"calib_0601.cal", "Standard"},
+                                  {"calib_0602.cal", "after service", "2023/06/02 07:45:10", "High"}}));
+}
+
+TEST(WebServiceClient, FontsListStandardFontsBeforeOptionalFonts) {
+    auto fonts = rowsFor(replyFixture("fonts.xml"), [](auto& c, auto a) { return c.getFontList(a); });
+    EXPECT_EQ(fonts, (Rows{{"Courier", "Courier"},
+                           {"Helvetica-Bold", "Helvetica Bold"},
+                           {"Mincho", "Ryumin-Light-83pv-RKSJ-H"}}));
+}
+
+TEST(WebServiceClient, ProfileKindsKeepColorimetryOrIccRecordsOnly) {
+    const std::string reply = replyFixture("output_profiles.xml");
+    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 0); }),
+              (Rows{{"Press native", "measured", "2023/03/14 15:09:26"}}));
+    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 1); }),
+              (Rows{{"Coated FOGRA39", "ISO coated", "2022/11/30 12:00:00"},
+                    {"Uncoated FOGRA29", "", "2022/11/30 12:00:00"}}));
+    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 2); }), Rows{});
+    EXPECT_EQ(rowsFor(replyFixture("cmyk_input_profiles.xml"),
+                      [](auto& c, auto a) { return c.getCMYKInputProfileFileList(a, 0); }),
+              (Rows{{"Press native", "measured", "2023/03/14 15:09:26"}}));
+}
+
+TEST(WebServiceClient, JobResourcesAskForTheTypeAndSetAndReadTheRows) {
+    LoopbackHttpServer server({CannedReply::soap(replyFixture("job_resources.xml")),
+                               CannedReply::soap(replyFixture("job_resources.xml"))});
+    WebServiceClient client = clientFor(server);
+    const Rows expected{{"Booklet A4", "saddle stitch", "2023/06/01 10:00:00"}, {"Flyer", "2023/06/02 11:30:00"}};
+    EXPECT_EQ(client.GetJobResourceList("127.0.0.1", 3), expected);
+    EXPECT_EQ(client.GetJobResourceListWithResourceSet("127.0.0.1", 5, "Coated"), expected);
+    auto requests = server.requests();
+    ASSERT_EQ(requests.size(), 2u);
+    EXPECT_NE(requests[0].body.find("<type>3</type><select>SYSTEM_DEFAULT</select>"), std::string::npos);
+    EXPECT_NE(requests[1].body.find("<type>5</type><select>Coated</select>"), std::string::npos);
+}
+
+TEST(WebServiceClient, JobResourceStatusAndDetailDecideTogether) {
+    auto jobResources = [](auto& c, auto a) { return c.GetJobResourceList(a, 0); };
+    const Rows booklet{{"Booklet"}};
+    LogLines log;
+    EXPECT_EQ(rowsFor(jobResourceReply("<status>Unknown</status><nDetail>0</nDetail>"), jobResources), booklet);
+    EXPECT_EQ(rowsFor(jobResourceReply("<status>OK</status>"), jobResources), booklet);
+    EXPECT_EQ(rowsFor(jobResourceReply("<status>Unknown</status>"), jobResources), Rows{});
+    EXPECT_TRUE(log.contains("###Failed to get status."));
+    EXPECT_EQ(rowsFor(jobResourceReply("<status>OK</status><nDetail>3</nDetail>"), jobResources), Rows{});
+    EXPECT_TRUE(log.contains("###Detail is not 0."));
+    EXPECT_EQ(rowsFor(jobResourceReply("<status>Error</status><nDetail>0</nDetail>"), jobResources), Rows{});
+    EXPECT_TRUE(log.contains("###status is not OK."));
+}
+
+TEST(WebServiceClient, StatusOtherThanOKStopsTheListLoggedOrSilently) {
+    LogLines log;
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "Error"),
+                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
+              Rows{});
+    EXPECT_TRUE(log.contains("###PrintService error: 41"));
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "ok"),
+                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
+              Rows{});
+    EXPECT_TRUE(log.contains("###PrintService error: 0"));
+    log.lines.clear();
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("feeders.xml"), "Error"),
+                      [](auto& c, auto a) { return c.getFeederInfoList(a); }),
+              Rows{});
+    EXPECT_TRUE(log.lines.empty());
+    std::string fonts = replyFixture("fonts.xml");
+    fonts.replace(fonts.find("<result>OK</result>"), 19, "<result>DiskFull</result>");
+    EXPECT_EQ(rowsFor(fonts, [](auto& c, auto a) { return c.getFontList(a); }), Rows{});
+    EXPECT_TRUE(log.contains("###PrintService error: 17"));
+}
+
+TEST(WebServiceClient, FaultOrUnreachableServerGivesAnEmptyList) {
+    const std::string fault =
+        soapReply(R"(<soap:Fault><faultcode>soap:Server</faultcode>)"
+                  R"(<faultstring>Server was unable to process request.</faultstring></soap:Fault>)");
+    LoopbackHttpServer server({CannedReply::http(500, fault)});
+    WebServiceClient client = clientFor(server);
+    EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
+    EXPECT_FALSE(client.lastResponseError());
+
+    LogLines log;
+    client.setPort(LoopbackHttpServer::unusedPort());
+    EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
+    ASSERT_TRUE(client.lastResponseError());
+    EXPECT_EQ(client.lastResponseError()->domain, "HTTPTransport");
+    ASSERT_EQ(log.lines.size(), 2u);
+    EXPECT_EQ(log.lines[0].rfind("###ResponseError:\nError Domain=HTTPTransport Code=7 ", 0), 0u) << log.lines[0];
+    EXPECT_EQ(log.lines[1].rfind("###Response: Error Domain=HTTPTransport Code=7 ", 0), 0u) << log.lines[1];
+}
+
+TEST(WebServiceClient, NoAddressOrAnExcludedProgramGivesNothing) {
+    WebServiceClient client;
+    client.setPort(LoopbackHttpServer::unusedPort());
+    EXPECT_FALSE(client.getStackerInfoList(""));
+    EXPECT_TRUE(WebServiceClient::isCommunicationPossible());
+
+    char name[17] = {};
+    ::prctl(PR_GET_NAME, name);
+    ::prctl(PR_SET_NAME, "Acrobat Pro");
+    EXPECT_FALSE(WebServiceClient::isCommunicationPossible());
+    EXPECT_FALSE(client.getStackerInfoList("127.0.0.1"));
+    ::prctl(PR_SET_NAME, "Adobe Reader");
+    EXPECT_FALSE(WebServiceClient::isCommunicationPossible());
+    ::prctl(PR_SET_NAME, name);
+    EXPECT_EQ(client.getStackerInfoList("127.0.0.1"), Rows{});
+}
+
+TEST(WebServiceClient, AddressThatIsNoHostSendsNothing) {
+    LoopbackHttpServer server({CannedReply::soap(replyFixture("fonts.xml"))});
+    WebServiceClient client = clientFor(server);
+    EXPECT_EQ(client.getFontList("127.0.0.1/elsewhere#"), Rows{});
+    EXPECT_EQ(client.getFontList("user@127.0.0.1"), Rows{});
+    ASSERT_TRUE(client.lastResponseError());
+    EXPECT_EQ(client.lastResponseError()->domain, "HTTPTransport");
+    EXPECT_TRUE(server.requests().empty());
+}
+
+TEST(WebServiceClient, ConvertUrlAddressBracketsIPv6AndEscapesItsZone) {
+    EXPECT_EQ(WebServiceClient::convertUrlAddress("fe80::1%en0"), "[fe80::1%25en0]");
+    EXPECT_EQ(WebServiceClient::convertUrlAddress("[fe80::2]"), "[fe80::2]");
+    EXPECT_EQ(WebServiceClient::convertUrlAddress("[fe80::3%eth1]"), "[fe80::3%25eth1]");
+    EXPECT_EQ(WebServiceClient::convertUrlAddress("192.168.10.20"), "192.168.10.20");
+    EXPECT_EQ(WebServiceClient::convertUrlAddress("press-01.local"), "press-01.local");
+}
+
+TEST(WebServiceClient, ReachesAnIPv6HostInBrackets) {
+    LoopbackHttpServer server({CannedReply::soap(replyFixture("fonts.xml"))}, std::chrono::seconds(15),
+                              LoopbackFamily::IPv6);
+    if (!server.port()) GTEST_SKIP() << "this machine has no IPv6 loopback";
+    WebServiceClient client = clientFor(server);
+    EXPECT_EQ(client.getFontList("::1")->size(), 3u);
+    ASSERT_EQ(server.requests().size(), 1u);
+    EXPECT_EQ(server.requests()[0].header("Host"), "[::1]");
+}

@@ -1,0 +1,130 @@
+#include "QtTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <map>
+
+#include "TestSupport.h"
+#include "core/LocalizedString.h"
+#include "core/PlistIO.h"
+#include "core/PreferredLanguages.h"
+#include "settings_ui/NotifyUnit.h"
+
+namespace QtWidgetTest {
+
+std::shared_ptr<Bundle> widgetsBundle() {
+    static auto bundle = Bundle::bundleWithPath(OstrinTest::dataPath("qt/Widgets.bundle"));
+    return bundle;
+}
+
+std::shared_ptr<Bundle> productBundle() {
+    static auto bundle = Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR);
+    return bundle;
+}
+
+PlistDictionary descriptionsOf(const Bundle& bundle) {
+    static std::map<std::string, PlistDictionary> read;
+    if (auto known = read.find(bundle.bundlePath()); known != read.end()) return known->second;
+    const auto info = PlistIO::readFile(bundle.bundlePath() + "/Contents/Info.plist");
+    const std::string name = info && info->dictionary() ? info->dictionary()->stringFor("QVPOD", "") : "";
+    const auto file = PlistIO::readFile(bundle.resourcePath() + "/" + name + ".plist");
+    return read[bundle.bundlePath()] = file && file->dictionary() ? *file->dictionary() : PlistDictionary{};
+}
+
+void typeText(QWidget* widget, const QString& text) {
+    for (const QChar character : text) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
+        QApplication::sendEvent(widget, &press);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(character));
+        QApplication::sendEvent(widget, &release);
+    }
+}
+
+std::shared_ptr<VORNUI> buildControl(const std::string& keyword, std::shared_ptr<Bundle> bundle) {
+    const PlistDictionary descriptions = descriptionsOf(*bundle);
+    const PlistValue* description = descriptions.find(keyword);
+    auto control = std::make_shared<VORNUI>();
+    control->setControlDictionary(description ? description->dictionary() : nullptr, std::move(bundle));
+    control->updateControl();
+    return control;
+}
+
+ShownControl::ShownControl(std::shared_ptr<VORNUI> control) : _view(new VORNUIWidget(std::move(control), &_window)) {
+    auto* layout = new QVBoxLayout(&_window);
+    layout->addWidget(_view);
+    _window.show();
+    _window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&_window));
+}
+
+NotificationRecorder::NotificationRecorder(const std::vector<std::string>& names) {
+    for (const std::string& name : names)
+        NotifyUnit::addObserver(this, [this](const Notification& notification) { _received.push_back(notification); },
+                                name);
+}
+
+NotificationRecorder::~NotificationRecorder() { NotifyUnit::removeObserver(this); }
+
+std::vector<std::string> NotificationRecorder::names() const {
+    std::vector<std::string> list;
+    for (const Notification& notification : _received) list.push_back(notification.name);
+    return list;
+}
+
+std::string NotificationRecorder::lastParameter() const {
+    if (_received.empty() || !_received.back().userInfo) return {};
+    return _received.back().userInfo->stringFor("Paramater", "");
+}
+
+Language::Language(const std::string& language) {
+    SetNSBundleForLocalizedString(productBundle());
+    PreferredLanguages::setFirst(language);
+}
+
+Language::~Language() { PreferredLanguages::setFirst("en"); }
+
+AlertScript::AlertScript(std::deque<int> answers)
+    : _presenter(std::make_shared<ScriptedAlertPresenter>(std::move(answers))) {
+    Alerts::setPresenter(_presenter);
+}
+
+AlertScript::~AlertScript() { Alerts::setPresenter(nullptr); }
+
+MessageBoxClicker::MessageBoxClicker(QString buttonTitle) : _buttonTitle(std::move(buttonTitle)) {
+    QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
+    _timer.start(10);
+}
+
+void MessageBoxClicker::poll() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) return;
+    _timer.stop();
+    _text = box->text();
+    _informativeText = box->informativeText();
+    _windowModal = box->windowModality() == Qt::WindowModal;
+    _parentWindow = box->parentWidget();
+    QAbstractButton* target = nullptr;
+    for (QAbstractButton* button : box->buttons()) {
+        _buttons.append(button->text());
+        if (button->text() == _buttonTitle) target = button;
+    }
+    if (_buttonTitle.isEmpty()) {
+        QTest::keyClick(box, Qt::Key_Escape);
+        return;
+    }
+    if (!target) {
+        box->reject();
+        return;
+    }
+    QTest::mouseClick(target, Qt::LeftButton);
+    _clicked = true;
+}
+
+}  // namespace QtWidgetTest

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <QWidget>
+
+#include <deque>
+#include <memory>
+#include <string>
+
+#include "core/Alert.h"
+#include "core/Bundle.h"
+#include "core/PlistValue.h"
+#include "qt/ControlBodyWidget.h"
+#include "qt/VORNUIWidget.h"
+#include "settings_ui/NotificationCenter.h"
+#include "settings_ui/VORNUI.h"
+
+namespace QtWidgetTest {
+
+using namespace ComQuorvantVelmar_Plugin;
+
+/// The test bundle whose Info.plist names WidgetsUI.plist as its UI description.
+std::shared_ptr<Bundle> widgetsBundle();
+/// The product bundle assembled in the build tree (catalogues, UI description, images).
+std::shared_ptr<Bundle> productBundle();
+/// The control descriptions of bundle's UI description by main keyword.
+PlistDictionary descriptionsOf(const Bundle& bundle);
+/// A control built from the description of keyword in bundle (the widgets bundle by default).
+std::shared_ptr<VORNUI> buildControl(const std::string& keyword, std::shared_ptr<Bundle> bundle = widgetsBundle());
+
+/// Types text into widget character by character, as a keyboard with any layout does.
+void typeText(QWidget* widget, const QString& text);
+
+/// A shown window holding the view of one control, as a pane holds it.
+class ShownControl {
+public:
+    explicit ShownControl(std::shared_ptr<VORNUI> control);
+    VORNUIWidget& view() const { return *_view; }
+    VORNUI& control() const { return *_view->control(); }
+    QWidget& window() { return _window; }
+    /// The widget of the control's type, as type T; nullptr when it is of another type.
+    template <class T>
+    T* body() const { return qobject_cast<T*>(_view->body()); }
+
+private:
+    QWidget _window;
+    VORNUIWidget* _view;
+};
+
+/// Records, in order, every post of the given names, with the "Paramater" it carried.
+class NotificationRecorder {
+public:
+    explicit NotificationRecorder(const std::vector<std::string>& names);
+    ~NotificationRecorder();
+    NotificationRecorder(const NotificationRecorder&) = delete;
+    NotificationRecorder& operator=(const NotificationRecorder&) = delete;
+
+    std::vector<std::string> names() const;
+    /// The "Paramater" of the last post; "" when it had none.
+    std::string lastParameter() const;
+    void clear() { _received.clear(); }
+
+private:
+    std::vector<Notification> _received;
+};
+
+/// Sets the first preferred language for the life of the object, then returns to English.
+class Language {
+public:
+    explicit Language(const std::string& language);
+    ~Language();
+};
+
+/// Answers the engine's questions from a script for the life of the object.
+class AlertScript {
+public:
+    explicit AlertScript(std::deque<int> answers = {});
+    ~AlertScript();
+    const std::vector<AlertRequest>& asked() const { return _presenter->asked(); }
+
+private:
+    std::shared_ptr<ScriptedAlertPresenter> _presenter;
+};
+
+/// Watches for the next modal message box and clicks its button titled buttonTitle,
+/// recording what the box showed. A box without that button is closed instead.
+class MessageBoxClicker {
+public:
+    /// An empty buttonTitle presses Escape instead of a button.
+    explicit MessageBoxClicker(QString buttonTitle);
+    bool clicked() const { return _clicked; }
+    const QString& text() const { return _text; }
+    const QString& informativeText() const { return _informativeText; }
+    const QStringList& buttons() const { return _buttons; }
+    bool wasWindowModal() const { return _windowModal; }
+    QWidget* parentWindow() const { return _parentWindow; }
+
+private:
+    void poll();
+
+    QString _buttonTitle;
+    QTimer _timer;
+    bool _clicked = false;
+    bool _windowModal = false;
+    QString _text;
+    QString _informativeText;
+    QStringList _buttons;
+    QPointer<QWidget> _parentWindow;
+};
+
+}  // namespace QtWidgetTest
