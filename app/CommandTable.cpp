@@ -96,6 +96,30 @@ const std::vector<Command>& commandTable() {
          "typeNum is the press's type number; height and width are in cep (1/14400 inch).\n\n"
          "Exit status 3 for a name without a record (Custom and NoChange among them).\n",
          paperSizeCommand},
+        {"defaults", "the panes' default print option dictionary",
+         "Usage: ostrin-flow [--resources DIR] [--lang LANG] defaults\n\n"
+         "Loads every pane plug-in of the extension bundle (Contents/PlugIns), as the print\n"
+         "dialog does, and prints the values their settings hold before anything is chosen:\n"
+         "one JSON object of internal keys (the panes' keys, lengths in mm) and string\n"
+         "values, in the order the panes register their settings. The panel's own settings\n"
+         "and the tray sheets are not panes and are not part of it.\n\n"
+         "  --format json   the only format (default)\n\n"
+         "Exit status 3 when the extension bundle is missing or has no pane plug-ins.\n",
+         defaultsCommand},
+        {"check", "consistency check of a print option dictionary",
+         "Usage: ostrin-flow [--resources DIR] [--lang LANG] check [FILE|-]\n\n"
+         "Reads one JSON object of internal keys (from FILE, or standard input when FILE is\n"
+         "- or absent) and checks that every option that is switched on has the value it\n"
+         "needs: a password for secure printing, a mail address for the notification, a\n"
+         "stock name for a stock tray, a template, form, profile or file name where one is\n"
+         "chosen, valid special toner page ranges (\"1-5,8\"; pages up to 200000, in rising\n"
+         "order). Values may be strings, booleans (read as True/False) or numbers.\n\n"
+         "Prints nothing and exits 0 when every check passes. Otherwise prints the alert on\n"
+         "stderr, as the detailed settings window shows it: its title, then one line per\n"
+         "failed check in check order, in the language of --lang; exit status 1.\n\n"
+         "Exit status 3 for an unreadable file, malformed JSON or input that is not a JSON\n"
+         "object, or a missing extension bundle.\n",
+         checkCommand},
         {"favorites", "list, show, delete, import and export saved favorites",
          "Usage: ostrin-flow favorites list\n"
          "       ostrin-flow favorites show NAME\n"

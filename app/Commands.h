@@ -13,6 +13,10 @@ int ppdCommand(const GlobalOptions& options, ArgumentList& arguments);
 int convertCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Prints the size record of a paper size name.
 int paperSizeCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Prints the panes' default print option dictionary.
+int defaultsCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Checks a print option dictionary for options that lack their companion value.
+int checkCommand(const GlobalOptions& options, ArgumentList& arguments);
 
 /// Prints one list of the print server as rows.
 int serverCommand(const GlobalOptions& options, ArgumentList& arguments);

@@ -52,6 +52,13 @@ TEST(Installation, InstalledCommandRunsFromItsPrefix) {
     ASSERT_EQ(listing.exitCode, 0) << listing.output;
     EXPECT_EQ(nlohmann::json::parse(listing.output)["product"], "(Installed Ostrin Flow)");
 
+    // The pane bundles come along, the imposition pane with its own code.
+    EXPECT_TRUE(fs::is_regular_file(bundle + "/Contents/PlugIns/Layout.bundle/Contents/Linux/Layout.so"));
+    auto defaults = runShell("env -u LD_LIBRARY_PATH " + quoted(prefix.file("bin/ostrin-flow")) +
+                             " defaults 2>/dev/null");
+    ASSERT_EQ(defaults.exitCode, 0) << defaults.output;
+    EXPECT_EQ(nlohmann::json::parse(defaults.output)["ImpositionMode_ImpositionCustomMode"], "Off");
+
     auto libraries = runShell("ldd " + quoted(prefix.file("bin/ostrin-flow")));
     const std::string line = libraries.output.substr(libraries.output.find("libostrinflow.so"));
     const std::string resolved = line.substr(line.find("=> ") + 3, line.find(" (") - line.find("=> ") - 3);
