@@ -10,6 +10,7 @@
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteWindowFolder_p.h"
 #include "favorites/MessageSheet_p.h"
+#include "ppd/PrintOptionTreeDataSource.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
@@ -65,7 +66,7 @@ void FavoriteWindowController::windowDidLoad() {
 int FavoriteWindowController::showAsModalDialog(const std::string& profilePath, const PlistDictionary& printOption,
                                                 DefaultSettingsProvider defaultSettings) {
     loadWindow();
-    _profilePath = profilePath;
+    if (_settingTree) _settingTree->updateProfilePath(profilePath, false);
     _printOption = printOption;
     _defaultSettingsProvider = std::move(defaultSettings);
     _defaultSettingsCache.reset();

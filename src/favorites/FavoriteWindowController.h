@@ -18,6 +18,8 @@ namespace ComQuorvantVelmar_Plugin {
 /// default entries, with rename, comment edit, delete, import and export. Every edit stays
 /// in the dialog until OK; only OK touches the favorites folder, and Cancel leaves every
 /// file as it was.
+class PrintOptionTreeDataSource;
+
 class FavoriteWindowController : public ModalWindow {
 public:
     /// Gives the default settings of the panes (in the print option dictionary's internal form).
@@ -34,6 +36,9 @@ public:
     /// for OK. defaultSettings is asked when the default settings are to be shown.
     int showAsModalDialog(const std::string& profilePath, const PlistDictionary& printOption,
                           DefaultSettingsProvider defaultSettings);
+    /// The summary tree that shows the setting list (not owned); nullptr for none.
+    void setSettingTree(PrintOptionTreeDataSource* settingTree) { _settingTree = settingTree; }
+
     /// Fills the list from the favorites folder with the two fixed entries first, and
     /// selects the current-settings entry.
     void reloadFavoriteList();
@@ -111,7 +116,7 @@ private:
     DefaultSettingsProvider _defaultSettingsProvider;
     std::optional<PlistDictionary> _defaultSettingsCache;
     PlistDictionary _settingList;
-    std::string _profilePath;
+    PrintOptionTreeDataSource* _settingTree = nullptr;
 
     TitledControl _favoriteListHeading;
     TitledControl _settingListHeading;

@@ -1,6 +1,7 @@
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteWindowController.h"
 #include "ppd/PrintOptionConverter.h"
+#include "ppd/PrintOptionTreeDataSource.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
@@ -33,6 +34,7 @@ void FavoriteWindowController::_updateSettingList() {
             options ? PrintOptionConverter::sharedInstance().toPpdKeywordFormat(*options) : PlistDictionary();
         _settingList = overlaid(canonical(_defaultSettings()), favorite);
     }
+    if (_settingTree) _settingTree->updatePrintOption(_settingList, true);
 }
 
 const PlistDictionary& FavoriteWindowController::_defaultSettings() {

@@ -8,6 +8,7 @@
 #include "DialogTestSupport.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteWindowController.h"
+#include "ppd/PrintOptionTreeDataSource.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 namespace fs = std::filesystem;
@@ -57,9 +58,9 @@ protected:
         });
     }
     // Runs the dialog with script as the user's part.
-    int show(ScriptedModalWindowRunner::Script script) {
+    int show(ScriptedModalWindowRunner::Script script, const std::string& profilePath = {}) {
         runner->queue(std::move(script));
-        return controller.showAsModalDialog("", kCurrent, [] { return kDefaults; });
+        return controller.showAsModalDialog(profilePath, kCurrent, [] { return kDefaults; });
     }
 
     FavoriteWindowController controller;
@@ -97,6 +98,21 @@ TEST_F(FavoriteManager, AFavoriteShowsTheDefaultsOverlaidWithItsOptions) {
     EXPECT_EQ(controller.settingList().stringFor("ColorMode"), "Grayscale");
     EXPECT_EQ(controller.settingList().stringFor("OffsetMode"), "Set");
     EXPECT_EQ(defaultRequests, 1);
+}
+
+TEST_F(FavoriteManager, TheSummaryTreeShowsTheSelectedRowsSettingsAndTheProfile) {
+    OstrinTest::writeFile(file("Proof.cps"), "Gamma=2.2\r\n");
+    OutlineViewModel outline;
+    PrintOptionTreeDataSource tree(nullptr);
+    tree.setOutlineView(&outline, false);
+    controller.setSettingTree(&tree);
+    show([&](ModalWindow&) {
+        EXPECT_EQ(tree.currentPrintOption(), controller.settingList());
+        controller.selectRow(rowNamed("Beta"));
+        EXPECT_EQ(tree.currentPrintOption()->stringFor("DuplexMode"), "DuplexTumble");
+        controller.clickedCancel();
+    }, file("Proof.cps"));
+    EXPECT_EQ(tree.profileDictionary(), (PlistDictionary{{"Gamma", "2.2"}}));
 }
 
 TEST_F(FavoriteManager, MouseSelectionIsRefusedWhileTheRowDuplicatesAName) {
