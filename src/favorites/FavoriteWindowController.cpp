@@ -4,7 +4,6 @@
 
 #include "core/FileUtil.h"
 #include "core/FormatterAttachment.h"
-#include "core/LocalizedString.h"
 #include "favorites/AppPreference.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteFunctions.h"
@@ -44,17 +43,17 @@ void FavoriteWindowController::loadWindow() {
 }
 
 void FavoriteWindowController::windowDidLoad() {
-    setWindowTitle(BSLocalizedString("Favorite window title"));
-    _favoriteListHeading.setTitle(BSLocalizedString("Favorite list"));
-    _settingListHeading.setTitle(BSLocalizedString("Setting list"));
-    _nameLabel.setTitle(BSLocalizedString("Name"));
-    _commentLabel.setTitle(BSLocalizedString("Comment"));
-    _deleteButton.setTitle(BSLocalizedString("Delete"));
-    _importButton.setTitle(BSLocalizedString("Import"));
-    _exportButton.setTitle(BSLocalizedString("Export"));
-    _cancelButton.setTitle(BSLocalizedString("Cancel"));
-    _okButton.setTitle(BSLocalizedString("OK"));
-    const std::string placeholder = BSLocalizedString("Placeholder Max chars");
+    setWindowTitle(localizedText("Favorite window title"));
+    _favoriteListHeading.setTitle(localizedText("Favorite list"));
+    _settingListHeading.setTitle(localizedText("Setting list"));
+    _nameLabel.setTitle(localizedText("Name"));
+    _commentLabel.setTitle(localizedText("Comment"));
+    _deleteButton.setTitle(localizedText("Delete"));
+    _importButton.setTitle(localizedText("Import"));
+    _exportButton.setTitle(localizedText("Export"));
+    _cancelButton.setTitle(localizedText("Cancel"));
+    _okButton.setTitle(localizedText("OK"));
+    const std::string placeholder = localizedText("Placeholder Max chars");
     _nameField.setFormatter(attachMaxBytesFormatter(static_cast<std::uint32_t>(FavoriteItem::maxNameLength())));
     _nameField.setPlaceholderStringAndToolTip(placeholder);
     _nameField.setTitle(_nameLabel.title());
@@ -107,7 +106,7 @@ bool FavoriteWindowController::_checkValid() {
     const std::string comment = _commentField.stringValue();
     if (auto message = FavoriteItem::checkName(name)) return _refuseWith(*message, _nameField);
     if (_isDuplicateName(name, _favoriteList.selectedRow()))
-        return _refuseWith(BSLocalizedString("There is same favorite name"), _nameField);
+        return _refuseWith(localizedText("There is same favorite name"), _nameField);
     if (auto message = FavoriteItem::checkComment(comment)) return _refuseWith(*message, _commentField);
     item->setName(name);
     item->setComment(comment);

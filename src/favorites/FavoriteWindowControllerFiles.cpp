@@ -7,7 +7,6 @@
 #include "core/Diagnostics.h"
 #include "core/FileChooser.h"
 #include "core/FileUtil.h"
-#include "core/LocalizedString.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteWindowController.h"
@@ -29,8 +28,8 @@ std::string withName(std::string format, const std::string& name) {
 
 bool confirmDeletion(const std::string& name) {
     AlertRequest request;
-    request.messageText = withName(BSLocalizedString("fmtConfirmationOfDeleteFavorite"), name);
-    request.buttons = {BSLocalizedString("OK"), BSLocalizedString("Cancel")};
+    request.messageText = withName(localizedText("fmtConfirmationOfDeleteFavorite"), name);
+    request.buttons = {localizedText("OK"), localizedText("Cancel")};
     return Alerts::runModal(request) == AlertFirstButtonReturn;
 }
 
@@ -81,9 +80,9 @@ void FavoriteWindowController::clickedImport() {
     const auto path = FileChoosers::runModal(request);
     if (!path) return;
     const FavoriteFile favorite(*path);
-    if (favorite.version() == -1) return showMessageSheet(BSLocalizedString(loadFailureKey));
+    if (favorite.version() == -1) return showMessageSheet(localizedText(loadFailureKey));
     const std::string name = FavoriteFile::nameWithPath(*path).value_or("");
-    if (_isDuplicateName(name, -1)) return showMessageSheet(BSLocalizedString("There is same favorite name"));
+    if (_isDuplicateName(name, -1)) return showMessageSheet(localizedText("There is same favorite name"));
     FavoriteItem item(name);
     item.setComment(favorite.comment().value_or(""));
     item.setPath(*path);
@@ -101,7 +100,7 @@ void FavoriteWindowController::clickedExport() {
     request.allowedExtensions = {favoriteExtension};
     const auto target = FileChoosers::runModal(request);
     if (!target) return;
-    if (FavoriteFile(item.path()).version() == -1) return showMessageSheet(BSLocalizedString(loadFailureKey));
+    if (FavoriteFile(item.path()).version() == -1) return showMessageSheet(localizedText(loadFailureKey));
     writeWithComment(item.path(), item.comment(), *target);
 }
 

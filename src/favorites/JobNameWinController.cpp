@@ -1,7 +1,6 @@
 #include "favorites/JobNameWinController.h"
 
 #include "core/FormatterAttachment.h"
-#include "core/LocalizedString.h"
 #include "favorites/MessageSheet_p.h"
 
 namespace ComQuorvantVelmar_Plugin {
@@ -24,14 +23,14 @@ void JobNameWinController::loadWindow() {
 }
 
 void JobNameWinController::windowDidLoad() {
-    _jobNameRadio.addRow({BSLocalizedString(automaticJobName), automaticJobName, 0});
-    _jobNameRadio.addRow({BSLocalizedString(typedJobName), typedJobName, 1});
-    _jobNameLabel.setTitle(BSLocalizedString("Job name"));
-    _okButton.setTitle(BSLocalizedString("OK"));
-    _cancelButton.setTitle(BSLocalizedString("Cancel"));
-    setWindowTitle(BSLocalizedString("Job name setting"));
+    _jobNameRadio.addRow({localizedText(automaticJobName), automaticJobName, 0});
+    _jobNameRadio.addRow({localizedText(typedJobName), typedJobName, 1});
+    _jobNameLabel.setTitle(localizedText("Job name"));
+    _okButton.setTitle(localizedText("OK"));
+    _cancelButton.setTitle(localizedText("Cancel"));
+    setWindowTitle(localizedText("Job name setting"));
     _jobNameField.setFormatter(attachMaxLengthFormatterWithEscape(maxJobNameLength));
-    _jobNameField.setPlaceholderStringAndToolTip(BSLocalizedString("Placeholder Max chars"));
+    _jobNameField.setPlaceholderStringAndToolTip(localizedText("Placeholder Max chars"));
     _jobNameField.setTitle(_jobNameLabel.title());
     restoreValues(automaticJobName, "");
 }
@@ -55,7 +54,7 @@ void JobNameWinController::clickedOK() {
     const std::size_t length = _jobNameField.formatter()->sizeOf(_jobNameField.stringValue());
     if (length >= 1 && length <= maxJobNameLength) return stopModalWithCode(1);
     // The key is spelled so in every catalogue.
-    showMessageSheet(BSLocalizedString("1 to 255 byte alart"));
+    showMessageSheet(localizedText("1 to 255 byte alart"));
 }
 
 void JobNameWinController::clickedCancel() { stopModalWithCode(0); }

@@ -1,7 +1,6 @@
 #include "favorites/SaveFavoriteWindowController.h"
 
 #include "core/FormatterAttachment.h"
-#include "core/LocalizedString.h"
 #include "favorites/FavoriteItem.h"
 #include "favorites/MessageSheet_p.h"
 
@@ -19,12 +18,12 @@ void SaveFavoriteWindowController::loadWindow() {
 }
 
 void SaveFavoriteWindowController::windowDidLoad() {
-    _nameLabel.setTitle(BSLocalizedString("Favorite name"));
-    _commentLabel.setTitle(BSLocalizedString("Comment"));
-    _saveButton.setTitle(BSLocalizedString("Save"));
-    _cancelButton.setTitle(BSLocalizedString("Cancel"));
-    setWindowTitle(BSLocalizedString("Save Favorite"));
-    const std::string placeholder = BSLocalizedString("Placeholder Max chars");
+    _nameLabel.setTitle(localizedText("Favorite name"));
+    _commentLabel.setTitle(localizedText("Comment"));
+    _saveButton.setTitle(localizedText("Save"));
+    _cancelButton.setTitle(localizedText("Cancel"));
+    setWindowTitle(localizedText("Save Favorite"));
+    const std::string placeholder = localizedText("Placeholder Max chars");
     _nameField.setFormatter(attachMaxBytesFormatter(static_cast<std::uint32_t>(FavoriteItem::maxNameLength())));
     _nameField.setPlaceholderStringAndToolTip(placeholder);
     _nameField.setTitle(_nameLabel.title());

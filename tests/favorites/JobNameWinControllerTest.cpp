@@ -3,6 +3,7 @@
 #include <string>
 
 #include "DialogTestSupport.h"
+#include "core/LocalizedString.h"
 #include "favorites/JobNameWinController.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -127,4 +128,16 @@ TEST_F(JobNameDialog, NobodyToShowTheDialogMeansCancel) {
     std::string specific = "Auto";
     std::string name;
     EXPECT_FALSE(ShowJobNameModalDialog(specific, nullptr, name));
+}
+
+TEST_F(JobNameDialog, WithoutStringsTheKeysAreShown) {
+    SetNSBundleForLocalizedString(nullptr);
+    JobNameWinController controller;
+    controller.restoreValues("Input", "");
+    EXPECT_EQ(controller.windowTitle(), "Job name setting");
+    EXPECT_EQ(controller.jobNameRadio().rows()[1].title, "Input");
+    controller.clickedOK();
+    ASSERT_EQ(alerts->asked().size(), 1u);
+    EXPECT_EQ(alerts->asked()[0].messageText, "1 to 255 byte alart");
+    EXPECT_EQ(alerts->asked()[0].buttons, std::vector<std::string>{"OK"});
 }
