@@ -1,6 +1,7 @@
 #include "favorites/JobNameWinController.h"
 
 #include "core/FormatterAttachment.h"
+#include "core/TextCharacters.h"
 #include "favorites/MessageSheet_p.h"
 
 namespace ComQuorvantVelmar_Plugin {
@@ -51,7 +52,7 @@ void JobNameWinController::selectRatio() {
 void JobNameWinController::clickedOK() {
     const RadioGroupModel::Row* selected = _jobNameRadio.selectedCell();
     if (selected && selected->tag == 0) return stopModalWithCode(1);
-    const std::size_t length = _jobNameField.formatter()->sizeOf(_jobNameField.stringValue());
+    const std::size_t length = TextCharacters::characterLength(_jobNameField.stringValue());
     if (length >= 1 && length <= maxJobNameLength) return stopModalWithCode(1);
     // The key is spelled so in every catalogue.
     showMessageSheet(localizedText("1 to 255 byte alart"));
