@@ -6,6 +6,7 @@
 #include "core/Diagnostics.h"
 #include "core/LocalizedString.h"
 #include "favorites/AppPreference.h"
+#include "ppd/PaneManagerTreeResolver.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
@@ -37,6 +38,9 @@ PlistDictionary summaryRoot(PlistDictionary tree) {
 }
 
 }  // namespace
+
+PrintOptionTreeDataSource::PrintOptionTreeDataSource()
+    : PrintOptionTreeDataSource(std::make_shared<PaneManagerTreeResolver>()) {}
 
 PrintOptionTreeDataSource::PrintOptionTreeDataSource(std::shared_ptr<PaneTreeResolver> resolver)
     : _treeDictionary(std::make_unique<PlistDictionary>()), _resolver(std::move(resolver)) {}

@@ -18,7 +18,9 @@ namespace ComQuorvantVelmar_Plugin {
 /// that lead to such a node.
 class PrintOptionTreeDataSource : public OutlineDataSource {
 public:
-    /// A data source whose nodes resolver resolves (the pane plug-in manager).
+    /// A data source whose nodes the process's pane plug-in manager resolves.
+    PrintOptionTreeDataSource();
+    /// A data source whose nodes resolver resolves; nullptr shows the nodes as they are.
     explicit PrintOptionTreeDataSource(std::shared_ptr<PaneTreeResolver> resolver);
 
     /// Binds outlineView (not owned) and the resolution mode, loads the root from the

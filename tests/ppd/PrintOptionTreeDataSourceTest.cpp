@@ -11,6 +11,7 @@
 #include "core/LocalizedString.h"
 #include "core/PlistIO.h"
 #include "core/PreferredLanguages.h"
+#include "panes/PanePlugInMgr.h"
 #include "ppd/PrintOptionTreeDataSource.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -234,4 +235,32 @@ TEST_F(SummaryTree, AnEmptyProfilePathDropsTheProfileAndNoPathKeepsIt) {
     EXPECT_TRUE(tree.profileDictionary());
     tree.updateProfilePath(std::string(), false);
     EXPECT_FALSE(tree.profileDictionary());
+}
+
+TEST(ProductSummaryTree, ShowsEveryPaneOfTheProductUnderItsTitle) {
+    auto bundle = Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR);
+    SetNSBundleForPrincipalBundle(bundle);
+    SetNSBundleForLocalizedString(bundle);
+    PreferredLanguages::setFirst("en");
+    PanePlugInMgr::setSharedInstance(nullptr);
+    ASSERT_TRUE(PanePlugInMgr::sharedInstance()->loadPlugIns());
+    OutlineViewModel outline;
+    PrintOptionTreeDataSource tree;
+    tree.setOutlineView(&outline, true);
+    tree.updatePrintOption(PlistDictionary{{"StapleMode", "Saddle"}}, true);
+    std::vector<std::string> shown;
+    for (const auto& row : outline.rows()) {
+        const OutlineCell cell = tree.objectValueForItem(row.item);
+        shown.push_back(cell.label);
+        EXPECT_FALSE(cell.grayed) << cell.label;
+        EXPECT_EQ(cell.iconName, "folder") << cell.label;
+        EXPECT_TRUE(outline.selectItem(row.item)) << cell.label;
+    }
+    EXPECT_EQ(shown, (std::vector<std::string>{"Paper", "Layout", "Finishing", "Output", "Color", "Special Toner",
+                                               "Special Toner: Front", "Special Toner: Back", "Secure Printing",
+                                               "Job", "Print Position: Front", "Print Position: Back",
+                                               "Spool Options"}));
+    PanePlugInMgr::setSharedInstance(nullptr);
+    SetNSBundleForPrincipalBundle(nullptr);
+    SetNSBundleForLocalizedString(nullptr);
 }
