@@ -33,7 +33,8 @@ public:
     /// Titles, headings and the name and comment fields' formatters; done once, on first use.
     void loadWindow();
     /// Shows the dialog for the current printOption (internal form) until OK or cancel; 1
-    /// for OK. defaultSettings is asked when the default settings are to be shown.
+    /// for OK. defaultSettings is asked when the default settings are to be shown; without
+    /// it the shared pane plug-in manager gives them.
     int showAsModalDialog(const std::string& profilePath, const PlistDictionary& printOption,
                           DefaultSettingsProvider defaultSettings);
     /// The summary tree that shows the setting list (not owned); nullptr for none.
@@ -132,7 +133,7 @@ private:
 
 /// Shows the favorite manager for the current printOption; true when it ended with OK.
 bool ShowFavoriteModalDialog(const PlistDictionary& printOption,
-                             FavoriteWindowController::DefaultSettingsProvider defaultSettings,
+                             FavoriteWindowController::DefaultSettingsProvider defaultSettings = {},
                              const std::string& profilePath = {});
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -1,5 +1,6 @@
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteWindowController.h"
+#include "panes/PanePlugInMgr.h"
 #include "ppd/PrintOptionConverter.h"
 #include "ppd/PrintOptionTreeDataSource.h"
 
@@ -39,7 +40,8 @@ void FavoriteWindowController::_updateSettingList() {
 
 const PlistDictionary& FavoriteWindowController::_defaultSettings() {
     if (!_defaultSettingsCache)
-        _defaultSettingsCache = _defaultSettingsProvider ? _defaultSettingsProvider() : PlistDictionary();
+        _defaultSettingsCache = _defaultSettingsProvider ? _defaultSettingsProvider()
+                                                         : PanePlugInMgr::sharedInstance()->defaultSettings();
     return *_defaultSettingsCache;
 }
 

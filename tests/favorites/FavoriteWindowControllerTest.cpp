@@ -8,6 +8,7 @@
 #include "DialogTestSupport.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteWindowController.h"
+#include "panes/PanePlugInMgr.h"
 #include "ppd/PrintOptionTreeDataSource.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -280,4 +281,20 @@ TEST_F(FavoriteManager, DeleteAsksFirstAndKeepsTheFileUntilOk) {
     EXPECT_TRUE(fs::exists(favorite("Beta")));
     controller.clickedDelete();
     EXPECT_EQ(alerts->asked().size(), 2u);
+}
+
+TEST_F(FavoriteManager, WithoutADefaultsProviderThePanesGiveTheDefaults) {
+    PanePlugInMgr::setSharedInstance(nullptr);
+    PanePlugInMgr::sharedInstance()->loadPlugIns();
+    runner->queue([](ModalWindow& window) {
+        auto& dialog = dynamic_cast<FavoriteWindowController&>(window);
+        dialog.selectRow(1);
+        // The panes' defaults in PPD keyword form: crease positions in cep, not millimetres.
+        EXPECT_EQ(dialog.settingList().stringFor("CreaseMode"), "Off");
+        EXPECT_EQ(dialog.settingList().stringFor("CreasePosition1"), "154205");
+        EXPECT_EQ(dialog.settingList().stringFor("QZRGBColorCorrect"), "sRGB");
+        dialog.clickedOK();
+    });
+    EXPECT_TRUE(ShowFavoriteModalDialog(kCurrent));
+    PanePlugInMgr::setSharedInstance(nullptr);
 }
