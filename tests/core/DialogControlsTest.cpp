@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/FormatterAttachment.h"
+#include "core/ListModel.h"
+#include "core/MaxBytesFormatter.h"
+#include "core/ModalWindow.h"
+#include "core/RadioGroupModel.h"
+#include "core/TextFieldModel.h"
+
+using namespace ComQuorvantVelmar_Plugin;
+
+TEST(TextFieldModel, ARefusedEditPutsTheLastGoodTextBack) {
+    TextFieldModel field;
+    field.setStringValue("abc");
+    field.setFormatter(MaxBytesFormatter::setMaxBytesFormatter(4));
+    EXPECT_TRUE(field.typeText("abcd"));
+    EXPECT_FALSE(field.typeText("abcdé"));
+    EXPECT_EQ(field.stringValue(), "abcd");
+    EXPECT_FALSE(field.typeText("ab\x07"));
+    EXPECT_EQ(field.stringValue(), "abcd");
+    field.setStringValue("program text beyond the limit");
+    EXPECT_FALSE(field.typeText("program text beyond the limit!"));
+    EXPECT_EQ(field.stringValue(), "program text beyond the limit");
+}
+
+TEST(TextFieldModel, ValueComesThroughTheFormatter) {
+    TextFieldModel field;
+    field.typeText("(a)");
+    EXPECT_EQ(field.objectValue(), "(a)");
+    field.setFormatter(attachMaxLengthFormatterWithEscape(10));
+    EXPECT_EQ(field.objectValue(), "\\(a\\)");
+    field.setPlaceholderStringAndToolTip("at most 10");
+    EXPECT_EQ(field.placeholderString(), "at most 10");
+    EXPECT_EQ(field.toolTip(), "at most 10");
+}
+
+TEST(TextFieldModel, EditingEndsOnlyAboveTheMinimum) {
+    TextFieldModel field;
+    field.setTitle("PIN");
+    field.setFormatter(std::make_shared<MaxBytesFormatter>(3, 8));
+    field.typeText("12");
+    const EndEditingDecision refused = field.textShouldEndEditing(true);
+    EXPECT_FALSE(refused.shouldEndEditing);
+    EXPECT_NE(refused.message.find("PIN"), std::string::npos);
+    field.typeText("");
+    EXPECT_TRUE(field.textShouldEndEditing(true).shouldEndEditing);
+}
+
+TEST(SelectionModels, AnUnknownChoiceLeavesOrClearsTheSelection) {
+    RadioGroupModel group;
+    group.addRow({"Auto", "Auto", 0});
+    group.addRow({"Input", "Input", 1});
+    EXPECT_EQ(group.selectedCell(), nullptr);
+    EXPECT_TRUE(group.selectRowWithRepresentedObject("Input"));
+    EXPECT_FALSE(group.selectRowWithRepresentedObject("Other"));
+    EXPECT_EQ(group.selectedRow(), 1);
+    group.selectRow(2);
+    EXPECT_EQ(group.selectedRow(), -1);
+
+    ListModel list;
+    list.setRows({"a", "b", "c"});
+    list.selectRow(2);
+    list.setRows({"a", "b", "c", "d"});
+    EXPECT_EQ(list.selectedRow(), 2);
+    list.setRows({"a"});
+    EXPECT_EQ(list.selectedRow(), -1);
+}
+
+TEST(ModalWindow, RunsUntilTheScriptEndsItAndTellsTheObserver) {
+    auto runner = std::make_shared<ScriptedModalWindowRunner>();
+    ModalWindows::setRunner(runner);
+    ModalWindow window;
+    std::vector<int> stops;
+    window.setStopObserver([&](int code) { stops.push_back(code); });
+    runner->queue([](ModalWindow& shown) {
+        EXPECT_TRUE(shown.isRunning());
+        shown.stopModalWithCode(1);
+        shown.stopModalWithCode(0);
+    });
+    EXPECT_EQ(window.runModal(), 1);
+    EXPECT_FALSE(window.isRunning());
+    EXPECT_EQ(stops, std::vector<int>{1});
+    // A run the user closes without a button counts as cancelled.
+    EXPECT_EQ(window.runModal(), 0);
+    EXPECT_EQ(runner->runCount(), 2);
+    ModalWindows::setRunner(nullptr);
+    EXPECT_EQ(window.runModal(), 0);
+}
