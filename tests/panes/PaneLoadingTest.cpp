@@ -46,6 +46,8 @@ TEST(PaneLoading, BundleOutsideTheTreeLoadsUnderItsBareName) {
     auto loose = scope.pane("Loose");
     ASSERT_TRUE(loose);
     EXPECT_EQ(scope.manager().roleName(loose.get()), std::nullopt);
+    // A setting described only in the pane's own UI resource.
+    EXPECT_EQ(scope.manager().getStringValueFromKey("LooseOwn"), std::optional<std::string>("Y"));
     // Found in a sub-folder of the plug-ins folder as well.
     EXPECT_TRUE(scope.pane("Deep"));
 }

@@ -53,7 +53,7 @@ TEST(PaneValues, GatheringAnswersNothingWhenTheServerSettingsApply) {
     auto gathered = manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
     ASSERT_TRUE(gathered);
     EXPECT_EQ(gathered->stringFor("SideNameFront"), std::optional<std::string>("Spot"));
-    EXPECT_EQ(gathered->keys(), (std::vector<std::string>{"Deep", "DeepName", "Loose", "SideModeFront",
+    EXPECT_EQ(gathered->keys(), (std::vector<std::string>{"Deep", "DeepName", "Loose", "LooseOwn", "SideModeFront",
                                                          "SideNameFront", "SideModeBack", "SideNameBack"}));
 }
 
