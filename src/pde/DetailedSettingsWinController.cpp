@@ -52,6 +52,7 @@ void DetailedSettingsWinController::reformatPrintOption(PlistDictionary& printOp
 int DetailedSettingsWinController::showAsModalDialog(PlistDictionary& printOption) {
     _prevSelectedProfileName.reset();
     int result = 0;
+    _visible = true;
     for (;;) {
         result = runModal();
         if (result != 1) break;
@@ -61,7 +62,7 @@ int DetailedSettingsWinController::showAsModalDialog(PlistDictionary& printOptio
             printOption = std::move(*gathered);
         if (manager.isPrintOptionConsistencyCheck(printOption)) break;
     }
-    hideWindow();
+    _visible = false;
     return result;
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/PlistValue.h"
-#include "pde/PdeModalWindow.h"
+#include "core/ModalWindow.h"
 
 namespace ComQuorvantVelmar_Plugin {
 
@@ -17,7 +17,7 @@ class TabViewNode;
 /// of panes), run modally until the gathered settings pass the consistency check. It also
 /// normalises a print option dictionary to the complete option set of the panes, as the
 /// panel does before every save. It works on the process's pane manager of the moment.
-class DetailedSettingsWinController : public PdeModalWindow {
+class DetailedSettingsWinController : public ModalWindow {
 public:
     /// The view style pop-up's items: tabs on top (tag 1) and the tree of panes (tag 0).
     enum ViewStyleTag : int { TreeStyleTag = 0, TabStyleTag = 1 };
@@ -54,6 +54,7 @@ public:
     void setEditingFinisher(std::function<bool()> finisher) { _endEditing = std::move(finisher); }
 
     const std::shared_ptr<TabViewNode>& tabView() const { return _tabView; }
+    bool isVisible() const { return _visible; }
     bool isTreeShown() const { return _isTreeShown; }
     double tableColumnWidth() const { return _tableColumn0Width; }
     int selectedViewStyleTag() const;
@@ -80,6 +81,7 @@ private:
     int _viewStyleIndex = 0;
     std::function<bool()> _endEditing;
     bool _isAwake = false;
+    bool _visible = false;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

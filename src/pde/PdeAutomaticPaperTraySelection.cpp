@@ -73,7 +73,7 @@ void PdeAutomaticPaperTraySelection::initCtrl() {
     PaneLayout::layOut(*_View);
     const ViewFrame separatorFrame = _separator->frame();
     _separator->setFrame({separatorFrame.x, separatorFrame.y, designedSeparatorWidth, 1});
-    setWindowFrame({0, 0, designedWindowWidth, _View->frame().height});
+    _windowFrame = {0, 0, designedWindowWidth, _View->frame().height};
     _close->setTitle(localized(_plugInBundle, "close"));
     _resizeWindow();
 }
@@ -132,9 +132,7 @@ void PdeAutomaticPaperTraySelection::_resizeWindow() {
     ViewFrame separatorFrame = _separator->frame();
     separatorFrame.width = separatorFrame.width / 2 + 16;
     _separator->setFrame(separatorFrame);
-    ViewFrame window = windowFrame();
-    window.width = window.width / 2 + 32;
-    setWindowFrame(window);
+    _windowFrame.width = _windowFrame.width / 2 + 32;
 }
 
 void PdeAutomaticPaperTraySelection::setPaperTypeCustomList(const PlistValue& list) {
@@ -165,11 +163,13 @@ void PdeAutomaticPaperTraySelection::modalWindow(DidEnd didEnd) {
         paperType->popupButtonAction();
     if (auto customColor = _listed("PaperColorCustomName"))
         customColor->setEnabled(_listedValue("PaperColor") == "StkCustom");
+    _visible = true;
     runModal();
+    _visible = false;
 }
 
 void PdeAutomaticPaperTraySelection::clickButtonClose() {
-    hideWindow();
+    _visible = false;
     if (_parentDidEndSelector) _parentDidEndSelector();
     stopModalWithCode(1);
 }

@@ -7,7 +7,8 @@
 
 #include "core/PlistValue.h"
 #include "panes/PanePlugInMgr.h"
-#include "pde/PdeModalWindow.h"
+#include "core/ModalWindow.h"
+#include "settings_ui/ViewNode.h"
 
 namespace ComQuorvantVelmar_Plugin {
 
@@ -21,7 +22,7 @@ class ViewNode;
 /// coating, drilling, gloss, preprinted), or the bypass sheet with the same idea for the
 /// bypass tray. It builds its settings from the extension's UI description and hands them
 /// to the panel by option key.
-class PdeAutomaticPaperTraySelection : public PdeModalWindow {
+class PdeAutomaticPaperTraySelection : public ModalWindow {
 public:
     /// Called on the panel when the sheet closes.
     using DidEnd = std::function<void()>;
@@ -50,6 +51,8 @@ public:
     const PanePlugInMgr::ControlDictionary& getListVORNUI() const { return _vornuiList; }
 
     bool bypassFlag() const { return _bypassFlag; }
+    const ViewFrame& windowFrame() const { return _windowFrame; }
+    bool isVisible() const { return _visible; }
     const std::shared_ptr<ViewNode>& contentView() const { return _View; }
     const std::shared_ptr<ViewNode>& separator() const { return _separator; }
     const std::shared_ptr<PanelButton>& closeButton() const { return _close; }
@@ -92,6 +95,8 @@ private:
     DidEnd _parentDidEndSelector;
     std::string _uiFilePath;
     PanePlugInMgr::ControlDictionary _vornuiList;
+    ViewFrame _windowFrame;
+    bool _visible = false;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,11 +32,6 @@ struct Notification;
 /// for the printer's data from the host's PPD.
 class TarnPDEByCocoa : public PDEObject, public PanePlugInMgrDelegate {
 public:
-    /// The job-name dialog: shows the three values and, on OK, replaces them (the escaped
-    /// one only when given) and answers true.
-    using JobNameDialog = std::function<bool(std::string& specificJobName, std::string* escapedJobName,
-                                             std::string& jobName)>;
-
     /// Statuses of the dialog entry points, in the print system's style.
     static constexpr int noErr = 0;
     static constexpr int paramErr = -50;
@@ -51,10 +45,6 @@ public:
     ~TarnPDEByCocoa() override;
     TarnPDEByCocoa(const TarnPDEByCocoa&) = delete;
     TarnPDEByCocoa& operator=(const TarnPDEByCocoa&) = delete;
-
-    /// Replaces the process's job-name dialog; an empty one leaves the job-name button
-    /// without effect.
-    static void setJobNameDialog(JobNameDialog dialog);
 
     // ---- What the print dialog asks of the panel ----
 

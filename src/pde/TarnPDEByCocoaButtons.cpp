@@ -1,3 +1,4 @@
+#include "favorites/JobNameWinController.h"
 #include "favorites/PopUpMenuModel.h"
 #include "panes/PanePlugInMgr.h"
 #include "panes/PaneValueText_p.h"
@@ -10,19 +11,12 @@
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
-TarnPDEByCocoa::JobNameDialog& jobNameDialog() {
-    static TarnPDEByCocoa::JobNameDialog dialog;
-    return dialog;
-}
-
 std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
     const PlistValue* value = dictionary.find(key);
     return value ? PaneValueText::textOfValue(*value) : std::string();
 }
 
 }  // namespace
-
-void TarnPDEByCocoa::setJobNameDialog(JobNameDialog dialog) { jobNameDialog() = std::move(dialog); }
 
 void TarnPDEByCocoa::_updatePaneFromModel() {
     _restoreValuesToPane(_printOption);
@@ -75,12 +69,10 @@ void TarnPDEByCocoa::clickedRevertToDefaultSettings() {
 }
 
 void TarnPDEByCocoa::clickedJobNameButton() {
-    const JobNameDialog dialog = jobNameDialog();
-    if (!dialog) return;
     std::string specific = _specificJobNameValue;
     std::string escaped = _escapedJobNameValue;
     std::string jobName = _jobNameValue;
-    if (dialog(specific, &escaped, jobName)) setJobNameValues(specific, escaped, jobName);
+    if (ShowJobNameModalDialog(specific, &escaped, jobName)) setJobNameValues(specific, escaped, jobName);
 }
 
 void TarnPDEByCocoa::setJobNameValues(const std::string& specificJobName, const std::string& escapedJobName,

@@ -4,7 +4,6 @@
 #include "core/PreferredLanguages.h"
 #include "panes/PanePlugInMgr.h"
 #include "pde/DetailedSettingsWinController.h"
-#include "pde/PdeModalWindow.h"
 #include "settings_ui/TabViewNode.h"
 
 using namespace PanelTest;
@@ -38,7 +37,7 @@ TEST(DetailedSettings, OkWithInconsistentSettingsKeepsTheWindowOpenWithTheGather
     int runs = 0;
     PlistDictionary seenOnSecondRun;
     PlistDictionary printOption{{"QVNote", "mine"}};
-    PdeModalWindow::setRunner([&](PdeModalWindow&) {
+    runWindowsWith([&](ModalWindow&) {
         ++runs;
         if (runs == 1) {
             scope.userChanges("MailNotifyJobEnd", "True");  // without a mail address
@@ -62,7 +61,7 @@ TEST(DetailedSettings, OkWithConsistentSettingsAnswersOneAndCommittedEditsOnly) 
     int runs = 0;
     bool committed = false;
     window().setEditingFinisher([&] { return std::exchange(committed, true); });
-    PdeModalWindow::setRunner([&](PdeModalWindow&) {
+    runWindowsWith([&](ModalWindow&) {
         ++runs;
         window().okButton();
     });

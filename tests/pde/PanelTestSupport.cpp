@@ -3,7 +3,6 @@
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
 #include "panes/PanePlugInMgr.h"
-#include "pde/PdeModalWindow.h"
 #include "pde/PrintSettings.h"
 #include "ppd/PpdFileExt.h"
 #include "settings_ui/NotifyUnit.h"
@@ -18,6 +17,23 @@ std::unique_ptr<PpdFileExt> openSamplePpd() {
     return ppd;
 }
 
+namespace {
+
+class PlayingRunner : public ModalWindowRunner {
+public:
+    explicit PlayingRunner(std::function<void(ModalWindow&)> play) : _play(std::move(play)) {}
+    void runModal(ModalWindow& window) override { _play(window); }
+
+private:
+    std::function<void(ModalWindow&)> _play;
+};
+
+}  // namespace
+
+void runWindowsWith(std::function<void(ModalWindow&)> play) {
+    ModalWindows::setRunner(play ? std::make_shared<PlayingRunner>(std::move(play)) : nullptr);
+}
+
 PanelScope::PanelScope(InMemoryPdeHost::Flavour flavour, std::deque<int> answers)
     : _presenter(std::make_shared<ScriptedAlertPresenter>(std::move(answers))),
       _host(std::make_unique<InMemoryPdeHost>(flavour, openSamplePpd())) {
@@ -30,8 +46,7 @@ PanelScope::PanelScope(InMemoryPdeHost::Flavour flavour, std::deque<int> answers
 PanelScope::~PanelScope() {
     _panel.reset();
     PanePlugInMgr::setSharedInstance(nullptr);
-    PdeModalWindow::setRunner(nullptr);
-    TarnPDEByCocoa::setJobNameDialog(nullptr);
+    runWindowsWith(nullptr);
     Alerts::setPresenter(nullptr);
     SetNSBundleForPrincipalBundle(nullptr);
     SetNSBundleForLocalizedString(nullptr);

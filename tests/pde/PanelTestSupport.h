@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/Alert.h"
+#include "core/ModalWindow.h"
 #include "pde/InMemoryPdeHost.h"
 #include "pde/TarnPDEByCocoa.h"
 
@@ -18,9 +19,12 @@ std::string samplePpdPath();
 /// The sample PPD opened with its defaults marked, as a new job starts; nullptr on failure.
 std::unique_ptr<PpdFileExt> openSamplePpd();
 
+/// Plays the user's part in every modal window with play, until the next call; an empty
+/// play restores the runner that shows nothing.
+void runWindowsWith(std::function<void(ModalWindow&)> play);
+
 /// A panel of the product bundle over an in-memory host holding the sample PPD: the bundle
-/// registered, a new pane manager, questions answered from a script, no modal runner and
-/// no job-name dialog. Everything goes back to nothing with the object.
+/// registered, a new pane manager, questions answered from a script, no modal runner. Everything goes back to nothing with the object.
 class PanelScope {
 public:
     explicit PanelScope(InMemoryPdeHost::Flavour flavour = InMemoryPdeHost::Flavour::WithPpdChangeHook,

@@ -5,7 +5,6 @@
 #include "pde/DetailedSettingsWinController.h"
 #include "pde/LegacyTicket.h"
 #include "pde/PanelButton.h"
-#include "pde/PdeModalWindow.h"
 #include "pde/PrintSettings.h"
 #include "pde/PrintSettingsTicket.h"
 #include "pde/TicketValueEscaping.h"
@@ -207,7 +206,7 @@ TEST(PanelRestore, SavedSettingsComeBackInTheNextDialog) {
 TEST(PanelSave, DetailedSettingsOkWritesOnlyWhatDiffersFromTheModelBeforeTheWindow) {
     PanelScope scope;
     scope.panel().willShow();
-    PdeModalWindow::setRunner([&](PdeModalWindow& window) {
+    runWindowsWith([&](ModalWindow& window) {
         scope.userChanges("ColorMode", "Grayscale");
         // Entries the fast save must not touch, since their settings did not change.
         scope.host().printSettings()->setValue("OffsetMode", "Set");

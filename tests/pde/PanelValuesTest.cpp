@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "PanelTestSupport.h"
+#include "favorites/JobNameWinController.h"
 #include "panes/PanePlugInMgr.h"
 #include "pde/PanelButton.h"
 #include "pde/PanelLabel.h"
 #include "pde/PdeAutomaticPaperTraySelection.h"
-#include "pde/PdeModalWindow.h"
 #include "pde/PrintSettings.h"
 #include "settings_ui/VORNUI.h"
 
@@ -158,7 +158,7 @@ TEST(PanelValues, TrayButtonsOpenTheirSheetAndTheModelTakesItsValuesWhenItCloses
     PanelScope scope;
     scope.panel().willShow();
     std::vector<std::string> shown;
-    PdeModalWindow::setRunner([&](PdeModalWindow& window) {
+    runWindowsWith([&](ModalWindow& window) {
         shown.push_back(window.windowTitle());
         scope.userChanges("PaperColor", "Green");
         static_cast<PdeAutomaticPaperTraySelection&>(window).clickButtonClose();
@@ -174,22 +174,27 @@ TEST(PanelValues, JobNameButtonTakesTheDialogsValuesOnlyOnOk) {
     scope.panel().willShow();
     EXPECT_EQ(scope.panel().jobNameLabel()->text(), "Auto");
     bool ok = false;
-    std::vector<std::string> given;
-    TarnPDEByCocoa::setJobNameDialog([&](std::string& specific, std::string* escaped, std::string& jobName) {
-        given = {specific, escaped ? *escaped : "<none>", jobName};
-        specific = "Input";
-        if (escaped) *escaped = "Q3 \\(final\\)";
-        jobName = "Q3 (final)";
-        return ok;
+    std::vector<std::string> shown;
+    runWindowsWith([&](ModalWindow& window) {
+        auto& dialog = dynamic_cast<JobNameWinController&>(window);
+        shown = {dialog.specificJobName(), dialog.jobName()};
+        dialog.jobNameRadio().selectRow(1);
+        dialog.selectRatio();
+        dialog.jobNameField().setStringValue("Q3 (final)");
+        if (ok)
+            dialog.clickedOK();
+        else
+            dialog.clickedCancel();
     });
     scope.panel().jobNameButton()->performClick();
     EXPECT_EQ(scope.panel().specificJobNameValue(), "Auto");
-    EXPECT_EQ(given, (std::vector<std::string>{"Auto", "", ""}));
+    EXPECT_EQ(shown, (std::vector<std::string>{"Auto", ""}));
 
     ok = true;
     scope.panel().jobNameButton()->performClick();
     EXPECT_EQ(scope.panel().specificJobNameValue(), "Input");
     EXPECT_EQ(scope.panel().escapedJobNameValue(), "Q3 \\(final\\)");
+    EXPECT_EQ(scope.panel().jobNameValue(), "Q3 (final)");
     EXPECT_EQ(scope.panel().jobNameLabel()->text(), "Q3 (final)");
 }
 
@@ -197,7 +202,7 @@ TEST(PanelValues, CancelledDetailedSettingsPutTheModelBackToTheSnapshotTakenAfte
     PanelScope scope;
     scope.panel().willShow();
     scope.userChanges("StapleMode", "Saddle");
-    PdeModalWindow::setRunner([&](PdeModalWindow&) {
+    runWindowsWith([&](ModalWindow&) {
         scope.userChanges("ColorMode", "Grayscale");
         scope.userChanges("MailAddress", "ana@example.com");
     });

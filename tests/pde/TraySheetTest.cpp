@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "PanelTestSupport.h"
 #include "TestSupport.h"
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
@@ -10,6 +11,7 @@
 #include "settings_ui/VORNUI.h"
 
 using namespace ComQuorvantVelmar_Plugin;
+using PanelTest::runWindowsWith;
 
 namespace {
 
@@ -26,7 +28,7 @@ struct Sheet {
     explicit Sheet(const std::shared_ptr<Bundle>& bundle, bool bypass) : manager(bundle) {
         sheet.initializePanel(bundle, bypass, manager);
     }
-    ~Sheet() { PdeModalWindow::setRunner(nullptr); }
+    ~Sheet() { runWindowsWith(nullptr); }
     PanePlugInMgr manager;
     PdeAutomaticPaperTraySelection sheet;
 };
@@ -114,8 +116,8 @@ TEST(TraySheet, CloseTellsThePanelHidesTheSheetAndEndsTheRun) {
     Sheet plain(productBundle(), false);
     int ended = 0;
     bool runningWhenTold = false;
-    PdeModalWindow::setRunner([&](PdeModalWindow& window) {
-        EXPECT_TRUE(window.isVisible());
+    runWindowsWith([&](ModalWindow&) {
+        EXPECT_TRUE(plain.sheet.isVisible());
         plain.sheet.closeButton()->performClick();
     });
     plain.sheet.modalWindow([&] {
