@@ -20,7 +20,7 @@ build: deps
 	@cmake --build $(BUILD_DIR) -j $(JOBS)
 
 run: build
-	$(BUILD_DIR)/app/ostrin-flow ppd
+	$(BUILD_DIR)/app/ostrin-flow options -o StapleMode=TopLeftCorner -o DuplexMode=DuplexNoTumble -o MediaTypeSequence=3 --format lp
 
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)

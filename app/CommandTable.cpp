@@ -50,6 +50,76 @@ const char* const kServerHelp =
     "without --host, 3 when the server's reply is not well-formed XML, 4 when the server\n"
     "cannot be reached (no connection, no answer in time, authentication refused).\n";
 
+
+const char* const kSettingsOptionsHelp =
+    "  -o KEY=VALUE     one setting in the panes' own keys (internal form, lengths in mm),\n"
+    "                   for example -o StapleMode=TopLeftCorner -o DuplexMode=DuplexNoTumble;\n"
+    "                   repeatable, applied in order as a user changes it in the panel, so the\n"
+    "                   settings' rules may ask a question (answered at the terminal, or by\n"
+    "                   --answer: yes lets the other settings change, no refuses the change).\n"
+    "                   NumCopies takes a whole number, Collate True or False. A key that no\n"
+    "                   setting has, or a value that is not a choice of its setting, is an\n"
+    "                   input error; a refused change ends the command with status 1.\n"
+    "  --job-name TEXT  the job name (1 to 255 characters) instead of the automatic one\n";
+
+const char* const kSettingsFlowHelp =
+    "The settings start from the defaults of the panes and the panel; after the -o changes\n"
+    "the whole set passes the consistency check (a failed check prints its alert on stderr,\n"
+    "status 1) and is saved as the panel saves it: each value that is a choice of the PPD\n"
+    "is marked in the PPD, any other value is a custom entry\n"
+    "(com.quorvant.velmar.print.PrintSettingsTicket.KEY, with \"%\", \"'\" and \",\" written\n"
+    "%x25, %x27 and %x2C) while the PPD keeps that option's default. A two-sided setting\n"
+    "that the media type forbids is put as a question; keeping the conflict ends with\n"
+    "status 1.\n";
+
+const std::string kOptionsHelp = std::string(
+    "Usage: ostrin-flow [--queue NAME | --ppd FILE] options [-o KEY=VALUE]... [--job-name TEXT]\n"
+    "                   [--format text|json|lp]\n\n"
+    "Prints the print job's settings: the marked PPD choices, the custom entries (by\n"
+    "option key, unescaped) and the standard settings (copies, collate, duplex).\n\n")
+    + kSettingsOptionsHelp +
+    "  --format text    three groups of NAME=VALUE lines (default)\n"
+    "  --format json    {\"ppd\": {...}, \"custom\": {...}, \"standard\": {\"copies\", \"collate\",\n"
+    "                   \"duplex\"}}\n"
+    "  --format lp      every job option as -o 'NAME=VALUE' arguments, quoted for a POSIX\n"
+    "                   shell so that lp receives each value unchanged:\n"
+    "                   sh -c \"lp -d QUEUE FILE $(ostrin-flow --queue QUEUE options ... --format lp)\"\n\n"
+    + kSettingsFlowHelp +
+    "\nExit status 1 for refused settings, 2 for a malformed -o, 3 for an unknown key or\n"
+    "choice, a missing or malformed PPD or an unknown queue, 4 when cupsd cannot be reached.\n";
+
+const std::string kPrintHelp = std::string(
+    "Usage: ostrin-flow --queue NAME print FILE [-o KEY=VALUE]... [--job-name TEXT]\n\n"
+    "Submits FILE to the queue with the settings (see options) and prints the job id. Like\n"
+    "options, the settings start from the defaults, not from your saved options; options\n"
+    "the panel has no setting for (sides, media, ...) still come from your saved options.\n"
+    "The job is named after --job-name, else after the file.\n\n")
+    + kSettingsOptionsHelp + "\n" + kSettingsFlowHelp +
+    "\nExit status 1 for refused settings, 2 without --queue, 3 for an unreadable FILE, an\n"
+    "unknown key, choice or queue, 4 when cupsd cannot be reached or refuses the job.\n";
+
+const std::string kSaveDefaultsHelp = std::string(
+    "Usage: ostrin-flow --queue NAME save-defaults [-o KEY=VALUE]... [--job-name TEXT]\n\n"
+    "Writes the settings (see options) as your saved options of the queue: the lpoptions\n"
+    "file under $HOME/.cups, which lp and later jobs start from. The previous saved\n"
+    "options of the queue are replaced; when the file cannot be written it is left as it\n"
+    "was. Values that are empty are not saved. Prints nothing.\n\n")
+    + kSettingsOptionsHelp + "\n" + kSettingsFlowHelp +
+    "\nExit status 1 for refused settings, 2 without --queue, 3 for an unknown key, choice\n"
+    "or queue, 4 when cupsd cannot be reached or the options cannot be written.\n";
+
+const char* const kRestoreHelp =
+    "Usage: ostrin-flow [--queue NAME | --ppd FILE] restore\n\n"
+    "Reads the queue's saved options back into the internal print option dictionary, as\n"
+    "the panel does when the print dialog opens: it starts from the defaults and takes for\n"
+    "each setting its custom entry, else the PPD's marked choice (the queue's default with\n"
+    "your saved options marked). Prints one JSON object of internal keys; a Boolean PPD\n"
+    "option comes back as a JSON boolean. With --ppd or the sample PPD it shows the PPD's\n"
+    "defaults over the panes' defaults.\n\n"
+    "  --format json    the only format (default)\n\n"
+    "Exit status 3 for a missing or malformed PPD or an unknown queue, 4 when cupsd cannot\n"
+    "be reached.\n";
+
 }  // namespace
 
 const std::vector<Command>& commandTable() {
@@ -145,6 +215,12 @@ const std::vector<Command>& commandTable() {
          "                    NAME.pqz when FILE is a folder)\n\n"
          "An unknown favorite or a refused file exits with 3 and one line on stderr.\n",
          favoritesCommand},
+        {"options", "the print job's settings as the panel saves them", kOptionsHelp, optionsCommand},
+        {"print", "prints a file on the queue with the settings", kPrintHelp, printCommand},
+        {"save-defaults", "saves the settings as the queue's saved options", kSaveDefaultsHelp,
+         saveDefaultsCommand},
+        {"restore", "the queue's saved options as the internal print option dictionary", kRestoreHelp,
+         restoreCommand},
         {"server", "one list of the print server as rows", kServerHelp, serverCommand},
     };
     return table;

@@ -18,6 +18,15 @@ int defaultsCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Checks a print option dictionary for options that lack their companion value.
 int checkCommand(const GlobalOptions& options, ArgumentList& arguments);
 
+/// The print job's settings after the defaults and the given changes, as the panel saves them.
+int optionsCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Prints a file on the queue with those settings; prints the job id.
+int printCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Writes those settings as the queue's saved options of the user.
+int saveDefaultsCommand(const GlobalOptions& options, ArgumentList& arguments);
+/// Reads the queue's saved options back into the internal print option dictionary.
+int restoreCommand(const GlobalOptions& options, ArgumentList& arguments);
+
 /// Prints one list of the print server as rows.
 int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
 

@@ -21,6 +21,8 @@ public:
 class PanePlugInMgrDelegate {
 public:
     virtual ~PanePlugInMgrDelegate();
+    /// The manager dropped key from the print option dictionary while gathering it.
+    virtual void removedObjectByGatheringPrintOption(const std::string& key) = 0;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -1,0 +1,129 @@
+#include "favorites/JobNameWinController.h"
+#include "favorites/PopUpMenuModel.h"
+#include "panes/PanePlugInMgr.h"
+#include "panes/PaneValueText_p.h"
+#include "pde/DetailedSettingsWinController.h"
+#include "pde/PanelButton.h"
+#include "pde/PanelLabel.h"
+#include "pde/PdeAutomaticPaperTraySelection.h"
+#include "pde/TarnPDEByCocoa.h"
+
+namespace ComQuorvantVelmar_Plugin {
+namespace {
+
+std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
+    const PlistValue* value = dictionary.find(key);
+    return value ? PaneValueText::textOfValue(*value) : std::string();
+}
+
+}  // namespace
+
+void TarnPDEByCocoa::_updatePaneFromModel() {
+    _restoreValuesToPane(_printOption);
+    _updateJobNameUI();
+}
+
+void TarnPDEByCocoa::_updateJobNameUI() {
+    const bool typed = _specificJobNameValue != "Auto" && !_jobNameValue.empty();
+    _jobName->setText(typed ? _jobNameValue : _localized("Auto"));
+}
+
+// The detailed settings work on a fresh copy of the job's settings: the panel saves and
+// reloads first, so that the window starts from exactly what the job would print with.
+void TarnPDEByCocoa::clickedShowDetailedSettingsButton() {
+    configuringNotification(false);
+    saveValuesAndReturnError();
+    _printOption_old = _printOption;
+    restoreValuesAndReturnError();
+    _gatherValuesFromPane(_printOption);
+    _panePlugInMgr->restorePrintOptionValues(&_printOption);
+    sendCommand("DeviceLinkFile");
+    const PlistDictionary snapshot = _printOption;
+    _panePlugInMgr->willShowAllBundle();
+    _detailedSettingsWinController->awakeFromNib();
+    if (_detailedSettingsWinController->showAsModalDialog(_printOption) == 1) {
+        _restoreValuesToPane(_printOption);
+        setCollate(textOf(_printOption, "Collate") == "True");
+        _checkDifferenceFromCurrentFavorite(false);
+        saveValuesAndReturnError_Fast();
+    } else {
+        // The panel shows the defaults here while the model goes back to the snapshot; the
+        // next restore from the print settings brings the two together again.
+        _restoreValuesToPane(_defaultPrintOption);
+        _printOption = snapshot;
+        _panePlugInMgr->restorePrintOptionValues(&_printOption);
+    }
+    configuringNotification(true);
+}
+
+void TarnPDEByCocoa::clickedRevertToDefaultSettings() {
+    const auto changed = _panePlugInMgr->setStringValueWithRestoreConfliction(textOf(_defaultPrintOption, "OutputTray"),
+                                                                             "OutputTray");
+    _restoreValuesToPane(_defaultPrintOption);
+    _panePlugInMgr->setStringValue("None", "DuplexMode");
+    setCollate(true);
+    _gatherValuesFromPane(_printOption);
+    for (const std::string& key : changed.value_or(std::vector<std::string>{}))
+        if (auto value = _panePlugInMgr->getStringValueFromKey(key)) _printOption.set(key, *value);
+    _checkDifferenceFromCurrentFavorite(true);
+}
+
+void TarnPDEByCocoa::clickedJobNameButton() {
+    std::string specific = _specificJobNameValue;
+    std::string escaped = _escapedJobNameValue;
+    std::string jobName = _jobNameValue;
+    if (ShowJobNameModalDialog(specific, &escaped, jobName)) setJobNameValues(specific, escaped, jobName);
+}
+
+void TarnPDEByCocoa::setJobNameValues(const std::string& specificJobName, const std::string& escapedJobName,
+                                      const std::string& jobName) {
+    _specificJobNameValue = specificJobName;
+    _escapedJobNameValue = escapedJobName;
+    _jobNameValue = jobName;
+    _updateJobNameUI();
+}
+
+void TarnPDEByCocoa::clickedSelectPaperTraySelectionButton(const PanelButton& sender) {
+    const auto& sheet = sender.tag() != 0 ? _BypassPaperTraySelection : _AutomaticPaperTraySelection;
+    if (sheet) sheet->modalWindow([this] { automaticPapaerTraySelectionDidEnd(); });
+}
+
+void TarnPDEByCocoa::automaticPapaerTraySelectionDidEnd() {
+    _gatherValuesFromPane(_printOption);
+    _checkDifferenceFromCurrentFavorite(false);
+}
+
+std::optional<std::string> TarnPDEByCocoa::_selectedFavoriteRepresentedObject() const {
+    const PopUpMenuItem* item = _Favorite->itemAtIndex(_Favorite->indexOfSelectedItem());
+    if (!item || item->representedObject.empty()) return std::nullopt;
+    return item->representedObject;
+}
+
+void TarnPDEByCocoa::_selectFavoriteWithRepresentedObject(const std::string& representedObject) {
+    const std::int64_t index = _Favorite->indexOfItemWithRepresentedObject(representedObject);
+    if (index != PopUpMenuModel::notFound) _Favorite->selectItemAtIndex(index);
+    selectFavorite();
+}
+
+// Applying the selected favorite to the model, and keeping the pop-up's marker of changed
+// settings, belong to the favorite pop-up; until it joins, a selection keeps the model.
+void TarnPDEByCocoa::selectFavorite() {
+    if (_Favorite->indexOfSelectedItem() < 0) _Favorite->selectItemAtIndex(0);
+    const PopUpMenuItem* item = _Favorite->itemAtIndex(_Favorite->indexOfSelectedItem());
+    if (!item) return;
+    _selectedFavorite = item->title;
+    const std::string marker = _localized("Change Setting");
+    const bool isMarker = !marker.empty() && item->title.rfind(marker, 0) == 0;
+    _deleteFavoriteButton->setEnabled(!item->representedObject.empty() && !isMarker);
+    if (_isIntializedUi) _backupFavoriteName = _selectedFavorite;
+    if (isMarker) return;
+    const std::string collate = textOf(_printOption, "Collate");
+    if (collate == "1" || collate == "True") setCollate(true);
+    if (collate == "0" || collate == "False") setCollate(false);
+    if (auto duplex = _printOption.find("DuplexMode"))
+        _panePlugInMgr->setStringValue(PaneValueText::textOfValue(*duplex), "DuplexMode");
+}
+
+void TarnPDEByCocoa::_checkDifferenceFromCurrentFavorite(bool) {}
+
+}  // namespace ComQuorvantVelmar_Plugin

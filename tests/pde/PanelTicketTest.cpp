@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include "PanelTestSupport.h"
+#include "panes/PanePlugInMgr.h"
+#include "pde/DetailedSettingsWinController.h"
+#include "pde/LegacyTicket.h"
+#include "pde/PanelButton.h"
+#include "pde/PrintSettings.h"
+#include "pde/PrintSettingsTicket.h"
+#include "pde/TicketValueEscaping.h"
+#include "ppd/PpdFileExt.h"
+
+using namespace PanelTest;
+
+namespace {
+
+using Flavour = InMemoryPdeHost::Flavour;
+
+std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
+    const PlistValue* value = dictionary.find(key);
+    if (!value) return "<absent>";
+    if (const bool* flag = value->boolean()) return *flag ? "True" : "False";
+    return value->stringOr("<not text>");
+}
+
+void setCustomEntry(InMemoryPdeHost& host, const std::string& key, const std::string& stored) {
+    host.printSettings()->setValue(PrintSettingsTicket::customKey(key), stored);
+}
+
+}  // namespace
+
+TEST(PanelSave, ValidChoiceIsMarkedInThePpdAndClearsTheCustomEntryOfAnEarlierSave) {
+    PanelScope scope;
+    setCustomEntry(scope.host(), "StapleMode", "LeftoverFromAnOlderDriver");
+    scope.panel().willShow();
+    scope.userChanges("StapleMode", "TopLeftCorner");
+
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.setting("StapleMode"), "TopLeftCorner");
+    EXPECT_EQ(scope.marked("StapleMode"), "TopLeftCorner");
+    EXPECT_EQ(scope.storedCustom("StapleMode"), std::nullopt);
+}
+
+TEST(PanelSave, InvalidValueRidesInTheCustomEntryWhileThePpdKeepsTheDefaultChoice) {
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.userChanges("MediaTypeSequence", "7");
+
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("MediaTypeSequence"), "7");
+    EXPECT_EQ(scope.setting("MediaTypeSequence"), "0");
+    EXPECT_EQ(scope.marked("MediaTypeSequence"), "0");
+    EXPECT_EQ(textOf(scope.panel().printOption(), "MediaTypeSequence"), "7");
+}
+
+TEST(PanelSave, ValueWithoutPpdOptionIsOnlyACustomEntry) {
+    PanelScope scope;
+    PlistDictionary ppdDictionary{{"QVNote", "stale"}, {"ColorMode", "Color"}};
+    scope.panel()._setValueToPpdDictionary(&ppdDictionary, "QVNote", "hello");
+    scope.panel()._setValueToPpdDictionary(&ppdDictionary, "ColorMode", "Grayscale");
+
+    EXPECT_EQ(scope.storedCustom("QVNote"), "hello");
+    EXPECT_EQ(ppdDictionary, (PlistDictionary{{"ColorMode", "Grayscale"}}));
+    // With a dictionary of its own the panel leaves the host's PPD alone.
+    EXPECT_TRUE(scope.host().ppdChanges().empty());
+}
+
+TEST(PanelSave, WritesTheFixedCustomEntriesEscaped) {
+    PanelScope scope;
+    scope.panel().setJobNameValues("Input", "Q3 \\(draft\\), 50%", "Q3 (draft), 50%");
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+
+    EXPECT_EQ(scope.storedCustom("QZSpecificJobName"), "Input");
+    EXPECT_EQ(scope.storedCustom("JobName"), "Q3 \\(draft\\)%x2C 50%x25");
+    EXPECT_EQ(scope.storedCustom("ProfilePath"), "");
+    // No favorite is selected, so none is named.
+    EXPECT_EQ(scope.storedCustom("FavoriteName"), std::nullopt);
+}
+
+TEST(PanelSave, EscapesPercentApostropheAndCommaAndRestoresThemInTheNextDialog) {
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.userChanges("PaperTypeCustomName", "Gloss 50%, O'Neil");
+    ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("PaperTypeCustomName"), "Gloss 50%x25%x2C O%x27Neil");
+
+    scope.reopenPanel();
+    EXPECT_TRUE(scope.panel().restoreValuesAndReturnError());
+    EXPECT_EQ(textOf(scope.panel().printOption(), "PaperTypeCustomName"), "Gloss 50%, O'Neil");
+}
+
+TEST(PanelSave, StoredEscapeTextComesBackAsTheCharacterItStandsFor) {
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.userChanges("PaperTypeCustomName", "a%x27b");
+    ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("PaperTypeCustomName"), "a%x25x27b");
+
+    // "%x25" is decoded first, which leaves "%x27" to become an apostrophe.
+    scope.reopenPanel();
+    scope.panel().restoreValuesAndReturnError();
+    EXPECT_EQ(textOf(scope.panel().printOption(), "PaperTypeCustomName"), "a'b");
+}
+
+TEST(PanelSave, KeptDuplexAgainstMediaTypeConflictFailsTheSaveWithMinus9531) {
+    PanelScope scope(Flavour::WithPpdChangeHook, {AlertSecondButtonReturn, AlertSecondButtonReturn});
+    scope.host().printSettings()->setValue("sides", "two-sided-long-edge");
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", "Transparency"));
+
+    EXPECT_FALSE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.panel()._gatherPrintOptionFromUi(nullptr), TarnPDEByCocoa::conflictKept);
+    ASSERT_EQ(scope.asked().size(), 2u);
+    const AlertRequest& question = scope.asked().front();
+    EXPECT_EQ(question.buttons, (std::vector<std::string>{"Change Setting", "Self Resolve Conflict"}));
+    EXPECT_EQ(question.informativeText.back(), '\n');
+    EXPECT_EQ(question.informativeText.find('\n'), question.informativeText.size() - 1);
+    EXPECT_EQ(scope.marked("QZMediaType"), "Transparency");
+    // The buttons the save disabled are enabled again.
+    EXPECT_TRUE(scope.panel().showDetailedSettingsButton()->isEnabled());
+}
+
+TEST(PanelSave, AcceptedConflictResolutionChangesTheMediaTypeAndSaves) {
+    PanelScope scope(Flavour::WithPpdChangeHook, {AlertFirstButtonReturn});
+    scope.host().printSettings()->setValue("sides", "two-sided-short-edge");
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", "Labels"));
+
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.marked("QZMediaType"), "Plain");
+    EXPECT_EQ(scope.marked("PaperTypeD"), "Plain");
+}
+
+TEST(PanelSave, DuplexNumberWithoutCupsFormPutsNoQuestion) {
+    PanelScope scope(Flavour::WithPpdChangeHook, {AlertSecondButtonReturn});
+    scope.host().printSettings()->setValue("sides", "one-sided");
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", "Transparency"));
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_TRUE(scope.asked().empty());
+}
+
+TEST(PanelSave, LegacyTicketTakesTheCustomEntriesAndThePpdIsLeftAlone) {
+    PanelScope scope(Flavour::WithoutPpdChangeHook);
+    scope.panel().willShow();
+    scope.userChanges("MediaTypeSequence", "5");
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+
+    const std::string key = PrintSettingsTicket::customKey("MediaTypeSequence");
+    EXPECT_EQ(scope.host().legacyTicket()->string(key), "5");
+    EXPECT_EQ(scope.host().legacyTicket()->clientIdentifier(key), TarnPDEByCocoa::panelKind());
+    EXPECT_TRUE(scope.host().ppdChanges().empty());
+    EXPECT_EQ(scope.panel()._PPD(), nullptr);
+}
+
+TEST(PanelRestore, CustomEntryWinsOverThePpdDictionaryWhichWinsOverTheMarkedChoice) {
+    PanelScope scope;
+    setCustomEntry(scope.host(), "ColorMode", "Grayscale");
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("OffsetMode", "Set"));
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("SamplePrintMode", "Hold"));
+    PlistDictionary ppdDictionary{{"ColorMode", "Color"}, {"OffsetMode", "Job"}};
+
+    EXPECT_EQ(scope.panel()._restorePrintOptionToUi(&ppdDictionary), TarnPDEByCocoa::noErr);
+    const PlistDictionary& model = scope.panel().printOption();
+    EXPECT_EQ(textOf(model, "ColorMode"), "Grayscale");
+    EXPECT_EQ(textOf(model, "OffsetMode"), "Job");
+    EXPECT_EQ(textOf(model, "SamplePrintMode"), "Hold");
+    EXPECT_EQ(textOf(model, "DuplexMode"), "None");
+}
+
+TEST(PanelRestore, StartsFromTheDefaultsAndTakesTheJobNameProfileAndMarkedChoices) {
+    PanelScope scope;
+    scope.panel().printOption().set("ColorMode", "Grayscale");
+    setCustomEntry(scope.host(), "QZSpecificJobName", "Input");
+    setCustomEntry(scope.host(), "JobName", "Q3%x2C final");
+    setCustomEntry(scope.host(), "ProfilePath", "/profiles/coated%x2C glossy.cps");
+    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("DuplexMode", "DuplexTumble"));
+    scope.panel().willShow();
+
+    EXPECT_TRUE(scope.panel().restoreValuesAndReturnError());
+    EXPECT_EQ(textOf(scope.panel().printOption(), "ColorMode"), "Color");
+    EXPECT_EQ(textOf(scope.panel().printOption(), "DuplexMode"), "DuplexTumble");
+    EXPECT_EQ(scope.manager().getStringValueFromKey("DuplexMode"), "DuplexTumble");
+    EXPECT_EQ(scope.panel().specificJobNameValue(), "Input");
+    EXPECT_EQ(scope.panel().jobNameValue(), "Q3, final");
+    EXPECT_EQ(scope.panel().escapedJobNameValue(), "Q3, final");
+    EXPECT_EQ(scope.panel().selectedProfilePath(), "/profiles/coated, glossy.cps");
+}
+
+TEST(PanelRestore, SavedSettingsComeBackInTheNextDialog) {
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.userChanges("StapleMode", "TopLeftCorner");
+    scope.userChanges("ColorMode", "Grayscale");
+    scope.userChanges("MediaTypeSequence", "7");
+    scope.userChanges("PaperColorBypass", "Blue");
+    ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
+    const PlistDictionary saved = scope.panel().printOption();
+
+    scope.reopenPanel();
+    scope.panel().restoreValuesAndReturnError();
+    const PlistDictionary& restored = scope.panel().printOption();
+    for (const auto& [key, value] : restored) EXPECT_EQ(textOf(restored, key), textOf(saved, key)) << key;
+    EXPECT_EQ(textOf(restored, "StapleMode"), "TopLeftCorner");
+    EXPECT_EQ(textOf(restored, "SpotColorCorrection"), "False");
+    EXPECT_EQ(textOf(restored, "PaperColorBypass"), "Blue");
+}
+
+TEST(PanelSave, DetailedSettingsOkWritesOnlyWhatDiffersFromTheModelBeforeTheWindow) {
+    PanelScope scope;
+    scope.panel().willShow();
+    runWindowsWith([&](ModalWindow& window) {
+        scope.userChanges("ColorMode", "Grayscale");
+        // Entries the fast save must not touch, since their settings did not change.
+        scope.host().printSettings()->setValue("OffsetMode", "Set");
+        scope.host().printSettings()->setValue("PagePrintOnCenter", "True");
+        static_cast<DetailedSettingsWinController&>(window).okButton();
+    });
+
+    scope.panel().clickedShowDetailedSettingsButton();
+    EXPECT_EQ(scope.setting("ColorMode"), "Grayscale");
+    EXPECT_EQ(scope.setting("OffsetMode"), "Set");
+    EXPECT_EQ(scope.setting("PagePrintOnCenter"), "True");
+    EXPECT_EQ(textOf(scope.panel().printOptionOld(), "ColorMode"), "Color");
+}
