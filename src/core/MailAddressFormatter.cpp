@@ -2,10 +2,13 @@
 
 #include <cstring>
 
+#include "core/LocalizedString.h"
+
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
 constexpr std::size_t maximumTextBytes = 128;
+constexpr const char* invalidAddressKey = "Alert_InvalidMailAddress";
 
 bool isSeparator(char character) {
     return character == ';' || character == ',' || std::strchr(" \t\n\v\f\r", character) != nullptr;
@@ -33,6 +36,13 @@ CharacterSet MailAddressFormatter::mailAddressCharacterSet() {
         .formUnionWithCharacterSet(CharacterSet::characterSetWithRange(U'A', 26))
         .formUnionWithCharacterSet(CharacterSet::characterSetWithRange(U'0', 10))
         .formUnionWithCharacterSet(CharacterSet::characterSetWithCharactersInString("@._+-;, "));
+}
+
+std::shared_ptr<MailAddressFormatter> MailAddressFormatter::mailAddressFieldFormatter() {
+    std::string message = BSLocalizedString(invalidAddressKey);
+    if (message.empty()) message = invalidAddressKey;
+    return setValidationFormatter(static_cast<std::uint32_t>(maximumTextBytes), mailAddressCharacterSet(),
+                                  std::move(message));
 }
 
 bool MailAddressFormatter::isValid(std::string_view text) const {

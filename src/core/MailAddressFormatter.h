@@ -22,6 +22,10 @@ public:
     /// The characters a mail-address field accepts: ASCII letters and digits, "@._+-" and
     /// the separators ";", "," and space.
     static CharacterSet mailAddressCharacterSet();
+    /// The formatter of a mail-address field: at most 128 bytes of mailAddressCharacterSet(),
+    /// with the localised "Alert_InvalidMailAddress" message (the key itself while no bundle
+    /// is registered) for an invalid text.
+    static std::shared_ptr<MailAddressFormatter> mailAddressFieldFormatter();
 
     /// Whether text (at most 128 bytes) holds at least one address and none of 0 or 1
     /// characters; false otherwise.

@@ -10,6 +10,7 @@ void OutlineViewModel::setDataSource(OutlineDataSource* dataSource) {
 }
 
 void OutlineViewModel::reloadData() {
+    ++_reloadCount;
     _expanded.clear();
     _selected = nullptr;
 }

@@ -28,6 +28,9 @@ public:
     /// Asks the data source afresh: every item handed out before is forgotten, so nothing
     /// stays expanded or selected.
     void reloadData();
+    /// How often the items were asked afresh: a view whose count differs holds items that
+    /// are gone and must ask again.
+    std::uint64_t reloadCount() const { return _reloadCount; }
 
     /// Expands item when it is shown (top-level, or the child of an expanded item) and has
     /// children; an item inside a closed branch stays as it is.
@@ -63,6 +66,7 @@ private:
     OutlineDataSource* _dataSource = nullptr;
     std::set<OutlineItem> _expanded;
     OutlineItem _selected = nullptr;
+    std::uint64_t _reloadCount = 0;
     double _columnWidth = 0;
     double _indentationPerLevel = 16;
     std::function<double(const std::string&)> _labelMeasure;

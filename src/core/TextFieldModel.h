@@ -19,6 +19,10 @@ public:
     /// An edit by the user: the formatter judges text; a refused edit puts the last good
     /// text back (the view beeps). True when text was taken.
     bool typeText(std::string text);
+    /// An edit that the field's editor has already put to the formatter with the user's own
+    /// selection: text becomes the field's text, and the formatter keeps the last good text
+    /// and selection the editor left it.
+    void editorDidChangeText(std::string text) { _text = std::move(text); }
     /// The value of the text: the formatter's value (escaped by an escaping formatter), or
     /// the text itself without a formatter.
     std::string objectValue() const;

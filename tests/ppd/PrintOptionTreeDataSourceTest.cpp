@@ -141,6 +141,19 @@ TEST_F(SummaryTree, WithoutAnyDifferenceEveryBranchCloses) {
     EXPECT_FALSE(tree.currentPrintOption());
 }
 
+// A view keeps the items it was handed until the control tells it they are gone; an
+// update without a finish hands out nothing new.
+TEST_F(SummaryTree, EveryFinishedUpdateTellsTheViewItsItemsAreNew) {
+    useTree(pressPanes());
+    const std::uint64_t bound = outline.reloadCount();
+    tree.updatePrintOption(PlistDictionary{{"StapleMode", "Saddle"}}, false);
+    tree.updateProfilePath(std::nullopt, false);
+    EXPECT_EQ(outline.reloadCount(), bound);
+    tree.updatePrintOption(std::nullopt, true);
+    tree.updateProfilePath(std::string(), true);
+    EXPECT_EQ(outline.reloadCount(), bound + 2);
+}
+
 TEST_F(SummaryTree, DependencyExpansionAsksTheManagerOncePerNodeUntilTheNextUpdate) {
     useTree({group("Imposition", {setting("Layout")})}, true);
     const OutlineItem imposition = topLevel(0);

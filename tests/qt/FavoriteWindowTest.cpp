@@ -1,0 +1,246 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <filesystem>
+
+#include "DialogWindowSupport.h"
+#include "QtTestSupport.h"
+#include "favorites/FavoriteFile.h"
+#include "favorites/FavoriteWindowController.h"
+#include "qt/FavoriteWindow.h"
+#include "qt/ListModelWidget.h"
+#include "qt/OutlineItemModel.h"
+#include "qt/OutlineViewWidget.h"
+#include "qt/TextFieldModelEdit.h"
+
+using namespace QtDialogTest;
+namespace fs = std::filesystem;
+
+namespace {
+
+const PlistDictionary kDefaults{{"DuplexMode", "None"}, {"ColorMode", "Color"}};
+const PlistDictionary kCurrent{{"DuplexMode", "DuplexNoTumble"}, {"ColorMode", "Grayscale"}};
+
+// Stands in for the pane plug-in manager, which does not yet mark settings that differ:
+// the finishing pane holds a stapling mode that differs from its default; only the paper
+// and finishing panes are loaded.
+class PaneManagerStandIn : public PaneTreeResolver {
+public:
+    PlistDictionary resolveItem(const PlistDictionary& item, bool) override {
+        if (item.stringFor("bundleName", "") != "Finishing") return item;
+        const PlistArray settings{PlistDictionary{{"mainAlias", "Staple mode"}, {"differedWithDefault", true}},
+                                  PlistDictionary{{"mainAlias", "Punch"}}};
+        return {{"bundleName", "Finishing"}, {"items", settings}};
+    }
+    std::optional<std::string> panelNameOfBundleName(const std::string& name) override {
+        if (name == "Page") return "Paper";
+        if (name == "Finishing") return "Finishing";
+        return std::nullopt;
+    }
+};
+
+class FavoriteWindowTest : public DialogWindowTest {
+protected:
+    void SetUp() override {
+        DialogWindowTest::SetUp();
+        writeFavorite(favorite("Beta"), "beta comment", {{"JB_DUPLEX", "2"}});
+        writeFavorite(favorite("Alpha"), "alpha comment", {{"CL_COLMD", "1"}});
+    }
+
+    bool show() {
+        return ShowFavoriteModalDialog(kCurrent, [] { return kDefaults; });
+    }
+
+    static QStringList rows(const FavoriteWindow& window) {
+        QStringList shown;
+        for (int row = 0; row < window.favoriteList()->count(); ++row) shown << window.favoriteList()->item(row)->text();
+        return shown;
+    }
+    static void clickRow(FavoriteWindow& window, const QString& name) {
+        ListModelWidget* list = window.favoriteList();
+        const auto items = list->findItems(name, Qt::MatchExactly);
+        ASSERT_EQ(items.size(), 1) << name.toStdString();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(items.front()).center());
+    }
+    static void retype(TextFieldModelEdit* field, const QString& text) {
+        field->setFocus();
+        field->selectAll();
+        QtWidgetTest::typeText(field, text);
+    }
+};
+
+}  // namespace
+
+TEST_F(FavoriteWindowTest, ShowsTheListWithTheFixedEntriesAndTheSelectedRowsFields) {
+    install();
+    WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
+        EXPECT_EQ(window.windowTitle(), "Manage Favorites");
+        EXPECT_EQ(window.favoriteListHeading()->text(), "Favorites");
+        EXPECT_EQ(window.settingListHeading()->text(), "Settings");
+        EXPECT_EQ(rows(window), (QStringList{"<Current Settings>", "Default Settings", "Alpha", "Beta"}));
+        EXPECT_EQ(window.favoriteList()->currentRow(), 0);
+        EXPECT_FALSE(window.nameField()->isEnabled());
+        EXPECT_FALSE(window.deleteButton()->isEnabled());
+        EXPECT_FALSE(window.exportButton()->isEnabled());
+        EXPECT_TRUE(window.importButton()->isEnabled());
+        EXPECT_EQ(window.importButton()->text(), "Import…");
+        clickRow(window, "Alpha");
+        EXPECT_EQ(window.favoriteList()->currentRow(), 2);
+        EXPECT_EQ(window.nameField()->text(), "Alpha");
+        EXPECT_EQ(window.commentField()->text(), "alpha comment");
+        EXPECT_TRUE(window.nameField()->isEnabled());
+        EXPECT_TRUE(window.deleteButton()->isEnabled());
+        window.nameField()->setFocus();
+        clickRow(window, "Beta");
+        EXPECT_EQ(window.focusWidget(), window.favoriteList());
+        QTest::keyClick(window.favoriteList(), Qt::Key_Up);
+        EXPECT_EQ(window.favoriteList()->currentRow(), 2);
+        EXPECT_EQ(window.nameField()->text(), "Alpha");
+        EXPECT_EQ(window.focusWidget(), window.favoriteList());
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(user.ran());
+}
+
+TEST_F(FavoriteWindowTest, AMouseSelectionIsRefusedWhileTheNameDuplicatesAnother) {
+    install();
+    WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
+        clickRow(window, "Alpha");
+        retype(window.nameField(), "Beta");
+        QtWidgetTest::MessageBoxClicker message("OK");
+        clickRow(window, "Default Settings");
+        EXPECT_TRUE(message.clicked());
+        EXPECT_EQ(message.text(), "A favorite with this name already exists. Please choose another name.");
+        EXPECT_EQ(message.parentWindow(), &window);
+        EXPECT_EQ(window.favoriteList()->currentRow(), 2);
+        EXPECT_EQ(window.focusWidget(), window.nameField());
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(FavoriteFile(favorite("Alpha")).comment(), "alpha comment");
+}
+
+TEST_F(FavoriteWindowTest, ARenameAndACommentTakeEffectOnOk) {
+    install();
+    WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
+        clickRow(window, "Alpha");
+        retype(window.nameField(), "Gamma");
+        retype(window.commentField(), "gloss");
+        QTest::mouseClick(window.okButton(), Qt::LeftButton);
+    });
+    EXPECT_TRUE(show());
+    EXPECT_FALSE(fs::exists(favorite("Alpha")));
+    EXPECT_EQ(FavoriteFile(favorite("Gamma")).comment(), "gloss");
+}
+
+TEST_F(FavoriteWindowTest, DeleteAsksAndCancelKeepsTheFile) {
+    install();
+    WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
+        clickRow(window, "Beta");
+        QtWidgetTest::MessageBoxClicker confirmation("OK");
+        QTest::mouseClick(window.deleteButton(), Qt::LeftButton);
+        EXPECT_TRUE(confirmation.clicked());
+        EXPECT_TRUE(confirmation.text().contains("\"Beta\""));
+        EXPECT_EQ(confirmation.buttons(), (QStringList{"OK", "Cancel"}));
+        EXPECT_EQ(rows(window), (QStringList{"<Current Settings>", "Default Settings", "Alpha"}));
+        EXPECT_EQ(window.favoriteList()->currentRow(), 0);
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(fs::exists(favorite("Beta")));
+}
+
+TEST_F(FavoriteWindowTest, ImportOpensInTheFavoritesFolderAndListsTheChosenFile) {
+    const std::string imported = file("Night Shift.pqz");
+    writeFavorite(imported, "from the night shift", {{"JB_DUPLEX", "1"}});
+    install();
+    WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
+        WhenShown<QFileDialog> picker([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.directory().absolutePath(), QString::fromStdString(favoriteFolder()));
+            EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+            EXPECT_TRUE(dialog.nameFilters().front().contains("*.pqz"));
+            EXPECT_EQ(dialog.parentWidget(), &window);
+            EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+            dialog.selectFile(QString::fromStdString(imported));
+            static_cast<QDialog&>(dialog).accept();
+        });
+        QTest::mouseClick(window.importButton(), Qt::LeftButton);
+        EXPECT_TRUE(picker.ran());
+        // Favorites with files sort by their paths: the imported one lies outside the folder.
+        EXPECT_EQ(rows(window), (QStringList{"<Current Settings>", "Default Settings", "Night Shift", "Alpha", "Beta"}));
+        QTest::mouseClick(window.okButton(), Qt::LeftButton);
+    });
+    EXPECT_TRUE(show());
+    EXPECT_EQ(FavoriteFile(favorite("Night Shift")).comment(), "from the night shift");
+}
+
+TEST_F(FavoriteWindowTest, ExportProposesTheFavoritesNameAndWritesItsComment) {
+    const std::string target = file("Alpha for the press.pqz");
+    install();
+    WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
+        clickRow(window, "Alpha");
+        retype(window.commentField(), "edited");
+        WhenShown<QFileDialog> picker([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+            ASSERT_FALSE(dialog.selectedFiles().isEmpty());
+            EXPECT_EQ(dialog.selectedFiles().front(), QString::fromStdString(favorite("Alpha")));
+            dialog.selectFile(QString::fromStdString(target));
+            static_cast<QDialog&>(dialog).accept();
+        });
+        QTest::mouseClick(window.exportButton(), Qt::LeftButton);
+        EXPECT_TRUE(picker.ran());
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(show());
+    EXPECT_EQ(FavoriteFile(target).comment(), "edited");
+    EXPECT_EQ(FavoriteFile(favorite("Alpha")).comment(), "alpha comment");
+}
+
+TEST_F(FavoriteWindowTest, TheSettingTreeShowsThePanesAndOpensWhereSettingsDiffer) {
+    install(std::make_shared<PaneManagerStandIn>());
+    WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
+        OutlineViewWidget* tree = window.settingTree();
+        const QAbstractItemModel* model = tree->model();
+        ASSERT_EQ(model->rowCount(), 13);
+        const QModelIndex paper = model->index(0, 0);
+        const QModelIndex layout = model->index(1, 0);
+        const QModelIndex finishing = model->index(2, 0);
+        EXPECT_EQ(paper.data().toString(), "Paper");
+        EXPECT_EQ(finishing.data().toString(), "Finishing");
+        EXPECT_FALSE(paper.data(Qt::ForegroundRole).isValid());
+        EXPECT_EQ(qvariant_cast<QBrush>(layout.data(Qt::ForegroundRole)),
+                  QApplication::palette().brush(QPalette::Disabled, QPalette::Text));
+        EXPECT_EQ(qvariant_cast<QIcon>(paper.data(Qt::DecorationRole)).name(), "folder");
+        EXPECT_TRUE(tree->isExpanded(finishing));
+        EXPECT_FALSE(tree->isExpanded(paper));
+        ASSERT_EQ(model->rowCount(finishing), 2);
+        const QModelIndex stapling = model->index(0, 0, finishing);
+        EXPECT_EQ(stapling.data().toString(), "Staple mode");
+        EXPECT_EQ(qvariant_cast<QIcon>(stapling.data(Qt::DecorationRole)).name(), "emblem-important");
+        EXPECT_GE(tree->header()->sectionSize(0), static_cast<int>(window.settingOutline().columnWidth()));
+
+        tree->collapse(finishing);
+        const OutlineItem finishingItem = tree->itemModel().itemForIndex(finishing);
+        EXPECT_FALSE(window.settingOutline().isItemExpanded(finishingItem));
+        tree->setCurrentIndex(layout);
+        EXPECT_EQ(window.settingOutline().selectedItem(), nullptr);
+        EXPECT_TRUE(tree->selectionModel()->selectedIndexes().isEmpty());
+        tree->setCurrentIndex(paper);
+        EXPECT_EQ(window.settingOutline().selectedItem(), tree->itemModel().itemForIndex(paper));
+
+        clickRow(window, "Default Settings");
+        EXPECT_TRUE(tree->isExpanded(tree->model()->index(2, 0)));
+        EXPECT_EQ(window.settingOutline().selectedItem(), nullptr);
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(user.ran());
+}

@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include "DialogWindowSupport.h"
+#include "QtTestSupport.h"
+#include "favorites/SaveFavoriteWindowController.h"
+#include "qt/SaveFavoriteWindow.h"
+#include "qt/TextFieldModelEdit.h"
+
+using namespace QtDialogTest;
+
+namespace {
+
+class SaveFavoriteWindowTest : public DialogWindowTest {
+protected:
+    void SetUp() override {
+        DialogWindowTest::SetUp();
+        install();
+    }
+
+    std::string name = "Draft";
+    std::string comment;
+};
+
+}  // namespace
+
+TEST_F(SaveFavoriteWindowTest, ShowsTheProposedNameWithTheFocusAndSavesWhatWasTyped) {
+    WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
+        EXPECT_EQ(window.windowTitle(), "Save Favorite");
+        EXPECT_EQ(window.nameLabel()->text(), "Favorite name");
+        EXPECT_EQ(window.commentLabel()->text(), "Comment");
+        EXPECT_EQ(window.saveButton()->text(), "Save");
+        EXPECT_EQ(window.nameField()->text(), "Draft");
+        EXPECT_EQ(window.commentField()->placeholderText(), "Up to the maximum length");
+        EXPECT_EQ(window.focusWidget(), window.nameField());
+        EXPECT_EQ(window.nameField()->selectedText(), "Draft");
+        window.nameField()->end(false);
+        QtWidgetTest::typeText(window.nameField(), " B");
+        window.commentField()->setFocus();
+        QtWidgetTest::typeText(window.commentField(), "Coated, duplex");
+        QTest::mouseClick(window.saveButton(), Qt::LeftButton);
+    });
+    EXPECT_TRUE(ShowSaveFavoriteModalDialog(name, comment));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(name, "Draft B");
+    EXPECT_EQ(comment, "Coated, duplex");
+}
+
+TEST_F(SaveFavoriteWindowTest, ARefusedNameIsSaidInASheetAndTakesTheFocusBack) {
+    WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
+        window.nameField()->selectAll();
+        QtWidgetTest::typeText(window.nameField(), "A/B");
+        window.commentField()->setFocus();
+        QtWidgetTest::MessageBoxClicker message("OK");
+        QTest::mouseClick(window.saveButton(), Qt::LeftButton);
+        EXPECT_TRUE(message.clicked());
+        EXPECT_TRUE(message.text().startsWith("A favorite name must have 1 to 27 bytes")) << message.text().toStdString();
+        EXPECT_EQ(message.parentWindow(), &window);
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(window.focusWidget(), window.nameField());
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(ShowSaveFavoriteModalDialog(name, comment));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(name, "Draft");
+}
+
+TEST_F(SaveFavoriteWindowTest, TypingStopsAtTwentySevenBytesOfName) {
+    WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
+        window.nameField()->selectAll();
+        QtWidgetTest::typeText(window.nameField(), QString::fromUtf8("Ölkreide Ölkreide Ölkreide"));
+        EXPECT_EQ(window.nameField()->text(), QString::fromUtf8("Ölkreide Ölkreide Ölkrei"));
+        QTest::mouseClick(window.saveButton(), Qt::LeftButton);
+    });
+    EXPECT_TRUE(ShowSaveFavoriteModalDialog(name, comment));
+    EXPECT_EQ(name, "Ölkreide Ölkreide Ölkrei");
+}
