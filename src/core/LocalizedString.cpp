@@ -66,10 +66,38 @@ std::string boundDomain(const Bundle& bundle, std::string_view table) {
     return domain;
 }
 
+// Switching writes LANGUAGE, so the list the environment gave is kept aside; a list that
+// someone else wrote since is the environment's again.
+struct LanguageLists {
+    std::optional<std::string> environment;
+    std::optional<std::string> written;
+};
+
+LanguageLists& languageLists() {
+    static LanguageLists lists;
+    return lists;
+}
+
+bool isOurs(const char* current) {
+    const auto& written = languageLists().written;
+    return current && written && *written == current;
+}
+
 }  // namespace
 
+const char* LocalizedCatalogues::environmentLanguageList() {
+    const char* current = std::getenv("LANGUAGE");
+    if (!isOurs(current)) return current;
+    const auto& environment = languageLists().environment;
+    return environment ? environment->c_str() : nullptr;
+}
+
 void LocalizedCatalogues::switchLanguage(const std::string& language) {
-    ::setenv("LANGUAGE", gettextLanguageList(language).c_str(), 1);
+    LanguageLists& lists = languageLists();
+    if (const char* current = std::getenv("LANGUAGE"); !isOurs(current))
+        lists.environment = current ? std::optional<std::string>(current) : std::nullopt;
+    lists.written = gettextLanguageList(language);
+    ::setenv("LANGUAGE", lists.written->c_str(), 1);
     ++_nl_msg_cat_cntr;
 }
 

@@ -24,7 +24,7 @@ std::string languageOfLocale(std::string_view locale) {
 }
 
 std::string fromEnvironment() {
-    if (const char* list = std::getenv("LANGUAGE"); list && *list) {
+    if (const char* list = LocalizedCatalogues::environmentLanguageList(); list && *list) {
         std::string_view entries(list);
         if (auto language = languageOfLocale(entries.substr(0, entries.find(':'))); !language.empty())
             return language;
