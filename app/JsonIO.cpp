@@ -9,6 +9,14 @@
 
 namespace OstrinFlowCommand {
 
+namespace {
+
+// Print option dictionaries are flat; far deeper nesting is refused before it is turned
+// into values, whose conversion goes one level of the call stack per level of nesting.
+constexpr int LargestNesting = 64;
+
+}  // namespace
+
 using ComQuorvantVelmar_Plugin::PlistArray;
 using ComQuorvantVelmar_Plugin::PlistDictionary;
 using ComQuorvantVelmar_Plugin::PlistValue;
@@ -61,8 +69,17 @@ PlistDictionary readJsonObject(const std::string& path) {
         text = ComQuorvantVelmar_Plugin::FileUtil::readAll(path);
     }
     if (!text) throw CommandError(ExitInput, "cannot read " + name);
-    Json json = Json::parse(*text, nullptr, false);
+    bool tooDeep = false;
+    Json json = Json::parse(
+        *text,
+        [&tooDeep](int depth, Json::parse_event_t, Json&) {
+            if (depth > LargestNesting) tooDeep = true;
+            return !tooDeep;
+        },
+        false);
     if (json.is_discarded()) throw CommandError(ExitInput, name + " is not valid JSON");
+    if (tooDeep)
+        throw CommandError(ExitInput, name + " nests deeper than " + std::to_string(LargestNesting) + " levels");
     if (!json.is_object()) throw CommandError(ExitInput, name + " does not hold a JSON object");
     return *fromJson(json).dictionary();
 }

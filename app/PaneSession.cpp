@@ -21,6 +21,11 @@ std::shared_ptr<PanePlugInMgr> loadPanes(const GlobalOptions& options) {
     auto manager = openPaneManager(options);
     if (!manager->loadPlugIns())
         throw CommandError(ExitInput, "the extension bundle " + options.bundlePath + " has no pane plug-ins");
+    // Panes whose controls found no description hold no setting: an empty answer would
+    // pass for a job without settings.
+    if (manager->defaultSettings().empty())
+        throw CommandError(ExitInput, "the extension bundle " + options.bundlePath +
+                                          " has no settings: its UI description is missing or unreadable");
     return manager;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 
 #include <filesystem>
@@ -65,5 +67,28 @@ inline ShellResult runShell(const std::string& commandLine) {
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return result;
 }
+
+/// While it lives, no file that this process or a process it starts writes can grow beyond
+/// bytes, as on a full disk; unlike a read-only folder, this holds for root as well.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        ::getrlimit(RLIMIT_FSIZE, &_saved);
+        _savedHandler = ::signal(SIGXFSZ, SIG_IGN);
+        struct rlimit tight = _saved;
+        tight.rlim_cur = bytes;
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &_saved);
+        ::signal(SIGXFSZ, _savedHandler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    struct rlimit _saved {};
+    void (*_savedHandler)(int) = nullptr;
+};
 
 }  // namespace OstrinTest

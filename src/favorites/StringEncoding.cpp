@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace ComQuorvantVelmar_Plugin::StringEncodings {
 namespace {
@@ -23,10 +26,12 @@ public:
 
     bool isOpen() const { return _descriptor != reinterpret_cast<iconv_t>(-1); }
 
-    // Converts all of input; at a sequence it cannot convert it calls skip, which answers
-    // how many input bytes to pass over (0 stops the conversion) and what to append.
+    // Converts all of input from the initial state; at a sequence it cannot convert it
+    // calls skip, which answers how many input bytes to pass over (0 stops the conversion)
+    // and what to append.
     template <typename Skip>
     bool convert(std::string_view input, std::string& output, Skip skip) {
+        ::iconv(_descriptor, nullptr, nullptr, nullptr, nullptr);
         char* in = const_cast<char*>(input.data());
         std::size_t inLeft = input.size();
         while (inLeft > 0) {
@@ -63,6 +68,27 @@ private:
     iconv_t _descriptor;
 };
 
+// The converter from one encoding to another, opened once per thread: opening one costs
+// far more than converting a setting, and a favorite file converts every key and value.
+Converter& converter(const char* to, const char* from) {
+    struct Entry {
+        const char* to;
+        const char* from;
+        std::unique_ptr<Converter> converter;
+    };
+    thread_local std::vector<Entry> converters;
+    for (Entry& entry : converters)
+        if (std::strcmp(entry.to, to) == 0 && std::strcmp(entry.from, from) == 0) return *entry.converter;
+    converters.push_back({to, from, std::make_unique<Converter>(to, from)});
+    return *converters.back().converter;
+}
+
+// Every encoding offered keeps the ASCII range as it is, and most keys and values of a
+// favorite are ASCII: those need no conversion.
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 // The length of the UTF-8 sequence that begins text, at least 1, at most what is left.
 std::size_t utf8SequenceLength(std::string_view text) {
     const auto lead = static_cast<unsigned char>(text.front());
@@ -93,9 +119,11 @@ const char* iconvName(StringEncoding encoding) {
 
 std::string decode(std::string_view bytes, StringEncoding encoding) {
     std::string text;
-    Converter converter("UTF-8", iconvName(encoding));
-    if (encoding == StringEncoding::None || !converter.isOpen()) return text;
-    converter.convert(bytes, text, [](std::string_view, std::string& output) {
+    if (encoding == StringEncoding::None) return text;
+    Converter& decoder = converter("UTF-8", iconvName(encoding));
+    if (!decoder.isOpen()) return text;
+    if (isAscii(bytes)) return std::string(bytes);
+    decoder.convert(bytes, text, [](std::string_view, std::string& output) {
         output += replacementCharacter;
         return std::size_t{1};
     });
@@ -104,9 +132,11 @@ std::string decode(std::string_view bytes, StringEncoding encoding) {
 
 std::optional<std::string> decodeStrictly(std::string_view bytes, StringEncoding encoding) {
     std::string text;
-    Converter converter("UTF-8", iconvName(encoding));
-    if (encoding == StringEncoding::None || !converter.isOpen()) return std::nullopt;
-    if (!converter.convert(bytes, text, [](std::string_view, std::string&) { return std::size_t{0}; }))
+    if (encoding == StringEncoding::None) return std::nullopt;
+    Converter& decoder = converter("UTF-8", iconvName(encoding));
+    if (!decoder.isOpen()) return std::nullopt;
+    if (isAscii(bytes)) return std::string(bytes);
+    if (!decoder.convert(bytes, text, [](std::string_view, std::string&) { return std::size_t{0}; }))
         return std::nullopt;
     return text;
 }
@@ -115,9 +145,10 @@ std::string encode(std::string_view text, StringEncoding encoding, bool* lossy) 
     if (lossy) *lossy = false;
     if (encoding == StringEncoding::None) return std::string(text);
     std::string bytes;
-    Converter converter(iconvName(encoding), "UTF-8");
-    if (!converter.isOpen()) return bytes;
-    converter.convert(text, bytes, [lossy](std::string_view rest, std::string& output) {
+    Converter& encoder = converter(iconvName(encoding), "UTF-8");
+    if (!encoder.isOpen()) return bytes;
+    if (isAscii(text)) return std::string(text);
+    encoder.convert(text, bytes, [lossy](std::string_view rest, std::string& output) {
         if (lossy) *lossy = true;
         output += '?';
         return utf8SequenceLength(rest);

@@ -5,11 +5,29 @@ namespace {
 
 constexpr int ConnectTimeoutMilliseconds = 30000;
 
+double& replyTimeout() {
+    static double seconds = CupsConnection::DefaultReplyTimeout;
+    return seconds;
+}
+
+// Asked by libcups when the reply timeout has passed: stop waiting.
+int stopWaiting(http_t*, void*) { return 0; }
+
 }  // namespace
 
 CupsConnection::CupsConnection()
     : _http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                         ConnectTimeoutMilliseconds, nullptr)) {}
+                         ConnectTimeoutMilliseconds, nullptr)) {
+    if (_http) httpSetTimeout(_http, replyTimeout(), stopWaiting, nullptr);
+}
+
+bool CupsConnection::lostServer() const { return _http && httpError(_http) != 0; }
+
+HostOutcome CupsConnection::failure(const std::string& what, const std::string& queue) const {
+    return lostServer() ? unreachable(what) : lastFailure(what, queue);
+}
+
+void CupsConnection::setReplyTimeout(double seconds) { replyTimeout() = seconds; }
 
 CupsConnection::~CupsConnection() {
     if (_http) httpClose(_http);

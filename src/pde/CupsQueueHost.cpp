@@ -32,10 +32,12 @@ int submit(http_t* http, const std::string& queue, const PrintSettings& settings
     return jobId;
 }
 
-// libcups reports a queue that is gone as an internal error: cupsd is asked for it.
-HostOutcome failureToSubmit(http_t* http, const std::string& queue, const std::string& what) {
-    const HostOutcome failure = CupsConnection::lastFailure(what, queue);
-    cups_dest_t* destination = cupsGetNamedDest(http, queue.c_str(), nullptr);
+// libcups reports a queue that is gone as an internal error: cupsd is asked for it, when
+// it still answers.
+HostOutcome failureToSubmit(const CupsConnection& connection, const std::string& queue, const std::string& what) {
+    const HostOutcome failure = connection.failure(what, queue);
+    if (connection.lostServer()) return failure;
+    cups_dest_t* destination = cupsGetNamedDest(connection.http(), queue.c_str(), nullptr);
     if (!destination)
         return HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + queue);
     cupsFreeDests(1, destination);
@@ -53,15 +55,16 @@ CupsQueueHost::Opening CupsQueueHost::open(const std::string& queue) {
         return {nullptr, HostOutcome::failure(statusOfFetch(fetched.status),
                                               "queue " + queue + ": " + fetched.message)};
     std::unique_ptr<CupsQueueHost> host(new CupsQueueHost(queue, std::move(fetched.ppd)));
-    if (!host->readDestination())
-        return {nullptr, CupsConnection::lastFailure("queue " + queue, queue)};
+    const CupsConnection connection;
+    if (!connection.http()) return {nullptr, CupsConnection::unreachable("queue " + queue)};
+    if (!host->readDestination(connection)) return {nullptr, connection.failure("queue " + queue, queue)};
     return {std::move(host), HostOutcome::done()};
 }
 
 // The destination's options are the user's saved options over the queue's own defaults;
 // the printer's description (state, URIs, make) is no job option and stays out.
-bool CupsQueueHost::readDestination() {
-    cups_dest_t* destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, _queue.c_str(), nullptr);
+bool CupsQueueHost::readDestination(const CupsConnection& connection) {
+    cups_dest_t* destination = cupsGetNamedDest(connection.http(), _queue.c_str(), nullptr);
     if (!destination) return false;
     for (int index = 0; index < destination->num_options; ++index) {
         const cups_option_t& option = destination->options[index];
@@ -87,7 +90,7 @@ HostOutcome CupsQueueHost::printFile(const std::string& path, const std::string&
     const CupsConnection connection;
     if (!connection.http()) return CupsConnection::unreachable(what);
     const int jobId = submit(connection.http(), _queue, _printSettings, path, title);
-    return jobId > 0 ? HostOutcome::done(jobId) : failureToSubmit(connection.http(), _queue, what);
+    return jobId > 0 ? HostOutcome::done(jobId) : failureToSubmit(connection, _queue, what);
 }
 
 HostOutcome CupsQueueHost::saveDefaults() {

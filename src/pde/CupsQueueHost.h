@@ -10,6 +10,8 @@
 
 namespace ComQuorvantVelmar_Plugin {
 
+class CupsConnection;
+
 /// A CUPS queue as the print dialog's host: the queue's PPD with its defaults and the
 /// user's saved options marked, its device URI, and print settings that are the job's
 /// CUPS options, starting as the saved options. Jobs go to cupsd with cupsPrintFile;
@@ -45,7 +47,7 @@ public:
 
 private:
     CupsQueueHost(std::string queue, std::unique_ptr<PpdFileExt> ppd);
-    bool readDestination();
+    bool readDestination(const CupsConnection& connection);
 
     std::string _queue;
     std::unique_ptr<PpdFileExt> _ppd;

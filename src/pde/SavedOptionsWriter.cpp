@@ -50,14 +50,15 @@ bool readsBack(http_t* http, const std::string& queue, const std::vector<CupsOpt
 }
 
 // Done once libcups has written the file, whatever it wrote; Failed when it wrote nothing.
-HostOutcome setDestinationOptions(http_t* http, const std::string& queue,
+HostOutcome setDestinationOptions(const CupsConnection& connection, const std::string& queue,
                                   const std::vector<CupsOptionText>& options, const std::string& what) {
+    http_t* http = connection.http();
     cups_dest_t* destinations = nullptr;
     const int count = cupsGetDests2(http, &destinations);
-    const bool reached = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
+    const bool reached = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE && !connection.lostServer();
     cups_dest_t* destination = reached ? cupsGetDest(queue.c_str(), nullptr, count, destinations) : nullptr;
     HostOutcome outcome =
-        !reached      ? CupsConnection::lastFailure(what, queue)
+        !reached      ? connection.failure(what, queue)
         : destination ? HostOutcome::done()
                       : HostOutcome::failure(HostOutcome::Status::InputError, what + ": no queue named " + queue);
     if (destination) {
@@ -98,7 +99,7 @@ HostOutcome SavedOptionsWriter::write(const std::string& queue, const PrintSetti
     const CupsConnection connection;
     if (!connection.http()) return CupsConnection::unreachable(what);
     const std::vector<CupsOptionText> options = optionsToSave(settings);
-    const HostOutcome outcome = setDestinationOptions(connection.http(), queue, options, what);
+    const HostOutcome outcome = setDestinationOptions(connection, queue, options, what);
     if (outcome.status == HostOutcome::Status::Done && readsBack(connection.http(), queue, options))
         return outcome;
     if (outcome.status != HostOutcome::Status::Done && outcome.status != HostOutcome::Status::Failed)

@@ -4,6 +4,8 @@
 #include <cups/ppd.h>
 #include <unistd.h>
 
+#include "pde/CupsConnection_p.h"
+
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
@@ -14,18 +16,15 @@ QueuePpd failure(QueuePpd::Status status, std::string message) {
     return result;
 }
 
-std::string serverAddress() {
-    std::string server = cupsServer();
-    if (!server.empty() && server[0] != '/') server += ":" + std::to_string(ippPort());
-    return server;
+QueuePpd unreachable() {
+    return failure(QueuePpd::Status::Unreachable, "cupsd at " + CupsConnection::serverAddress() + " cannot be reached");
 }
 
-QueuePpd failureWithoutPpd(const std::string& queue) {
+// A cupsd that answered may be asked whether the queue exists; one that was lost may not.
+QueuePpd failureWithoutPpd(const CupsConnection& connection, const std::string& queue) {
     const std::string reason = cupsLastErrorString();
-    if (cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)
-        return failure(QueuePpd::Status::Unreachable,
-                       "cupsd at " + serverAddress() + " cannot be reached");
-    cups_dest_t* destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr);
+    if (connection.lostServer() || cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE) return unreachable();
+    cups_dest_t* destination = cupsGetNamedDest(connection.http(), queue.c_str(), nullptr);
     if (!destination) return failure(QueuePpd::Status::UnknownQueue, "no such queue");
     cupsFreeDests(1, destination);
     return failure(QueuePpd::Status::Unreadable, "the queue has no PPD (" + reason + ")");
@@ -33,9 +32,9 @@ QueuePpd failureWithoutPpd(const std::string& queue) {
 
 // The saved options are marked over the defaults, as cupsd itself applies them to a job;
 // entries that are no PPD option (copies, sides, ...) change nothing.
-void markDestinationOptions(PpdFile& ppd, const std::string& queue) {
+void markDestinationOptions(PpdFile& ppd, const CupsConnection& connection, const std::string& queue) {
     ppd.markDefaults();
-    cups_dest_t* destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr);
+    cups_dest_t* destination = cupsGetNamedDest(connection.http(), queue.c_str(), nullptr);
     if (!destination) return;
     for (int index = 0; index < destination->num_options; ++index) {
         const cups_option_t& option = destination->options[index];
@@ -49,15 +48,17 @@ void markDestinationOptions(PpdFile& ppd, const std::string& queue) {
 // Failures to connect show only in cupsGetPPD2's status: cupsGetNamedDest reports any
 // failure as an unknown queue, so it is asked second.
 QueuePpd QueuePpd::fetch(const std::string& queue) {
-    const char* temporaryPath = cupsGetPPD2(CUPS_HTTP_DEFAULT, queue.c_str());
+    const CupsConnection connection;
+    if (!connection.http()) return unreachable();
+    const char* temporaryPath = cupsGetPPD2(connection.http(), queue.c_str());
     // libcups keeps the path in a buffer its next call overwrites.
     const std::string path = temporaryPath ? temporaryPath : "";
-    if (path.empty()) return failureWithoutPpd(queue);
+    if (path.empty()) return failureWithoutPpd(connection, queue);
     std::string error;
     std::unique_ptr<PpdFileExt> ppd = PpdFileExt::initWithContentsOfFile(path, &error);
     ::unlink(path.c_str());
     if (!ppd) return failure(Status::Unreadable, "its PPD is malformed: " + error);
-    markDestinationOptions(*ppd, queue);
+    markDestinationOptions(*ppd, connection, queue);
     QueuePpd result;
     result.status = Status::Fetched;
     result.ppd = std::move(ppd);

@@ -102,6 +102,21 @@ TEST_F(ConvertCommand, MalformedJsonIsAnInputError) {
     EXPECT_EQ(file.err, "ostrin-flow: " + path + " is not valid JSON\n");
 }
 
+TEST_F(ConvertCommand, DeeplyNestedJsonIsAnInputErrorNotACrash) {
+    const auto nested = [](std::size_t levels) {
+        return "{\"Pages\": " + std::string(levels, '[') + std::string(levels, ']') + "}";
+    };
+    auto deep = runCommand({"convert", "--to", "canonical"}, nested(200000));
+    EXPECT_EQ(deep.exitCode, 3);
+    EXPECT_EQ(deep.err, "ostrin-flow: standard input nests deeper than 64 levels\n");
+    EXPECT_TRUE(deep.out.empty());
+    auto check = runCommand({"check"}, nested(65));
+    EXPECT_EQ(check.exitCode, 3);
+    EXPECT_EQ(check.err, "ostrin-flow: standard input nests deeper than 64 levels\n");
+    auto shallow = runCommand({"convert", "--to", "internal"}, nested(64));
+    EXPECT_EQ(shallow.exitCode, 0) << shallow.err;
+}
+
 TEST_F(ConvertCommand, InputThatIsNoObjectOrNoFileIsAnInputError) {
     auto array = runCommand({"convert", "--to", "internal"}, "[1, 2]");
     EXPECT_EQ(array.exitCode, 3);

@@ -7,6 +7,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 
 namespace OstrinTest {
@@ -96,6 +97,25 @@ CannedReply CannedReply::closing() {
     return reply;
 }
 
+CannedReply CannedReply::resetHalfWay(std::size_t half) {
+    CannedReply reply{"HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nContent-Length: " + std::to_string(2 * half) +
+                      "\r\n\r\n" + std::string(half, ' ')};
+    reply.resetAfterBytes = true;
+    return reply;
+}
+
+CannedReply CannedReply::endless() {
+    CannedReply reply{"HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nConnection: close\r\n\r\n<?xml version=\"1.0\"?>"};
+    reply.endlessAfterBytes = true;
+    return reply;
+}
+
+CannedReply CannedReply::stallingAfterTheHead(std::chrono::milliseconds stall) {
+    CannedReply reply{"HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nContent-Length: 400\r\n\r\n"};
+    reply.stallAfterBytes = stall;
+    return reply;
+}
+
 LoopbackHttpServer::LoopbackHttpServer(std::vector<CannedReply> script, std::chrono::milliseconds lifetime,
                                        LoopbackFamily family)
     : _family(family), _deadline(std::chrono::steady_clock::now() + lifetime) {
@@ -170,16 +190,50 @@ std::optional<RecordedRequest> LoopbackHttpServer::_readRequest(int connection) 
 }
 
 void LoopbackHttpServer::_answer(int connection, const CannedReply& reply) {
-    for (auto until = std::chrono::steady_clock::now() + reply.delay;
-         !_shouldStop() && std::chrono::steady_clock::now() < until;)
-        std::this_thread::sleep_for(std::chrono::milliseconds(kSliceMilliseconds));
+    _wait(reply.delay);
     if (reply.closeWithoutReply || _shouldStop()) return;
+    if (!_send(connection, reply.bytes)) return;
+    if (reply.endlessAfterBytes) _flood(connection);
+    _wait(reply.stallAfterBytes);
+    if (reply.resetAfterBytes) {
+        // A zero linger time makes the close a reset, as a server that crashes mid-reply.
+        linger reset{1, 0};
+        ::setsockopt(connection, SOL_SOCKET, SO_LINGER, &reset, sizeof reset);
+    }
+}
+
+bool LoopbackHttpServer::_send(int connection, const std::string& bytes) {
     std::size_t sent = 0;
-    while (sent < reply.bytes.size()) {
-        ssize_t count = ::send(connection, reply.bytes.data() + sent, reply.bytes.size() - sent, MSG_NOSIGNAL);
-        if (count <= 0) return;
+    while (sent < bytes.size()) {
+        ssize_t count = ::send(connection, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+        if (count <= 0) return false;
         sent += static_cast<std::size_t>(count);
     }
+    return true;
+}
+
+// Sends element after element until the client closes the connection or the server stops.
+void LoopbackHttpServer::_flood(int connection) {
+    const std::string filler = [] {
+        std::string text;
+        while (text.size() < 65536) text += "<item>flood</item>";
+        return text;
+    }();
+    std::size_t offset = 0;
+    while (!_shouldStop()) {
+        pollfd entry{connection, POLLOUT, 0};
+        if (::poll(&entry, 1, kSliceMilliseconds) <= 0) continue;
+        if (entry.revents & (POLLERR | POLLHUP)) return;
+        ssize_t count = ::send(connection, filler.data() + offset, filler.size() - offset, MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (count < 0 && errno != EAGAIN && errno != EWOULDBLOCK) return;
+        if (count > 0) offset = (offset + static_cast<std::size_t>(count)) % filler.size();
+    }
+}
+
+void LoopbackHttpServer::_wait(std::chrono::milliseconds pause) {
+    for (auto until = std::chrono::steady_clock::now() + pause;
+         !_shouldStop() && std::chrono::steady_clock::now() < until;)
+        std::this_thread::sleep_for(std::chrono::milliseconds(kSliceMilliseconds));
 }
 
 }  // namespace OstrinTest

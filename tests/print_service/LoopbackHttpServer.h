@@ -29,6 +29,12 @@ struct CannedReply {
     std::string bytes;
     std::chrono::milliseconds delay{0};
     bool closeWithoutReply = false;
+    /// After bytes, the connection is reset (RST) instead of closed.
+    bool resetAfterBytes = false;
+    /// After bytes, the server keeps sending filler until the client gives up.
+    bool endlessAfterBytes = false;
+    /// After bytes, the server waits this long before closing.
+    std::chrono::milliseconds stallAfterBytes{0};
 
     /// A reply with the given status, "Content-Type: text/xml", extra header lines, body and
     /// "Connection: close".
@@ -37,6 +43,12 @@ struct CannedReply {
     static CannedReply soap(std::string body) { return http(200, std::move(body)); }
     /// Reads the request and closes the connection without a word.
     static CannedReply closing();
+    /// Sends the head and the first half of a SOAP body of length 2 * half, then resets.
+    static CannedReply resetHalfWay(std::size_t half);
+    /// Sends a 200 head without a length, then an XML body that never ends.
+    static CannedReply endless();
+    /// Sends a 200 head announcing a body, then sends nothing for stall.
+    static CannedReply stallingAfterTheHead(std::chrono::milliseconds stall);
 };
 
 /// The loopback address a server listens on.
@@ -69,6 +81,9 @@ private:
     int _accept();
     std::optional<RecordedRequest> _readRequest(int connection);
     void _answer(int connection, const CannedReply& reply);
+    bool _send(int connection, const std::string& bytes);
+    void _flood(int connection);
+    void _wait(std::chrono::milliseconds pause);
     bool _shouldStop() const;
 
     LoopbackFamily _family;

@@ -1,0 +1,2 @@
+ostrin_add_benchmark(favorites_bench ${CMAKE_CURRENT_LIST_DIR}/FavoritesBench.cpp)
+target_link_libraries(favorites_bench PRIVATE ostrin_bench_session)

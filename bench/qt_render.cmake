@@ -1,0 +1,2 @@
+ostrin_add_benchmark(qt_render_bench ${CMAKE_CURRENT_LIST_DIR}/QtRenderBench.cpp)
+target_link_libraries(qt_render_bench PRIVATE ostrin_bench_session ostrinflow-qt)
