@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "core/AtomicFile.h"
 #include "core/FileUtil.h"
@@ -122,6 +124,40 @@ plist_t toNode(const PlistValue& value) {
     return nullptr;
 }
 
+// Property lists of the product nest a few levels. One nested far deeper (a printer's data,
+// a damaged resource) is no property list the engine can use, and converting it, here or
+// in libplist's own writer, takes one level of the call stack per level of nesting. The
+// walk that measures it keeps its own stack.
+constexpr std::size_t LargestNesting = 256;
+
+bool nestsTooDeeply(plist_t root) {
+    std::vector<std::pair<plist_t, std::size_t>> pending{{root, 0}};
+    while (!pending.empty()) {
+        const auto [node, depth] = pending.back();
+        pending.pop_back();
+        const plist_type type = plist_get_node_type(node);
+        if (type != PLIST_ARRAY && type != PLIST_DICT) continue;
+        if (depth >= LargestNesting) return true;
+        if (type == PLIST_ARRAY) {
+            for (uint32_t i = 0, count = plist_array_get_size(node); i < count; ++i)
+                pending.emplace_back(plist_array_get_item(node, i), depth + 1);
+            continue;
+        }
+        plist_dict_iter iterator = nullptr;
+        plist_dict_new_iter(node, &iterator);
+        while (iterator) {
+            char* key = nullptr;
+            plist_t item = nullptr;
+            plist_dict_next_item(node, iterator, &key, &item);
+            if (!key) break;
+            free(key);
+            pending.emplace_back(item, depth + 1);
+        }
+        free(iterator);
+    }
+    return false;
+}
+
 // libplist 2.2 aborts the process when a string or key holding a NUL byte is read back.
 // Valid XML never holds one, so such text is refused; a binary list is rewritten as XML
 // without the NUL bytes of its texts (base64 data holds none) and read from there.
@@ -131,11 +167,12 @@ PlistHandle parseSafely(std::string_view bytes) {
     if (!plist_is_binary(bytes.data(), length)) {
         if (bytes.find('\0') != std::string_view::npos) return nullptr;
         plist_from_xml(bytes.data(), length, &root);
-        return PlistHandle(root);
+        PlistHandle xml(root);
+        return xml && !nestsTooDeeply(xml.get()) ? std::move(xml) : nullptr;
     }
     plist_from_bin(bytes.data(), length, &root);
     PlistHandle binary(root);
-    if (!binary) return nullptr;
+    if (!binary || nestsTooDeeply(binary.get())) return nullptr;
     char* xml = nullptr;
     uint32_t xmlLength = 0;
     plist_to_xml(binary.get(), &xml, &xmlLength);

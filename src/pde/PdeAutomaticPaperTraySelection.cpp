@@ -56,8 +56,10 @@ bool PdeAutomaticPaperTraySelection::initializePanel(std::shared_ptr<Bundle> bun
                                                      PanePlugInMgr& callback) {
     _plugInBundle = std::move(bundle);
     _uiFilePath = callback.getUIFilePath();
+    _sharedDescriptions = _uiFilePath.empty() ? nullptr : callback.uiDescriptions();
     _bypassFlag = bypassFlag;
     initCtrl();
+    _sharedDescriptions = nullptr;
     return true;
 }
 
@@ -78,11 +80,15 @@ void PdeAutomaticPaperTraySelection::initCtrl() {
     _resizeWindow();
 }
 
-PlistDictionary PdeAutomaticPaperTraySelection::_readDescriptions() const {
+// The pane manager has read the UI description once for every pane and the panel; the
+// sheets take theirs from it rather than reading and copying the whole file again.
+const PlistDictionary& PdeAutomaticPaperTraySelection::_readDescriptions() {
+    if (_sharedDescriptions) return *_sharedDescriptions;
     std::string path = _uiFilePath;
     if (path.empty() && _plugInBundle) path = _plugInBundle->pathForResource("UI", "plist");
     auto file = path.empty() ? std::nullopt : PlistIO::readFile(path);
-    return file && file->dictionary() ? *file->dictionary() : PlistDictionary();
+    _fileDescriptions = file && file->dictionary() ? std::move(*file->dictionary()) : PlistDictionary();
+    return _fileDescriptions;
 }
 
 bool PdeAutomaticPaperTraySelection::_describe(const PlistDictionary& descriptions, const std::string& key,
@@ -97,7 +103,7 @@ bool PdeAutomaticPaperTraySelection::_describe(const PlistDictionary& descriptio
 }
 
 void PdeAutomaticPaperTraySelection::_initCtrlAutomatic() {
-    const PlistDictionary descriptions = _readDescriptions();
+    const PlistDictionary& descriptions = _readDescriptions();
     if (!_describe(descriptions, "PaperType_MediaTypeTabbed", _vorn_PaperType_MediaTypeTabbed, true))
         _describe(descriptions, "PaperTypeD", _vorn_PaperTypeD, true);
     _describe(descriptions, "PaperTypeCustomName", _vorn_PaperTypeCustomName, true);
@@ -117,7 +123,7 @@ void PdeAutomaticPaperTraySelection::_initCtrlAutomatic() {
 // bypass weight control the sheet shows; the panel reads and writes the bypass weight by
 // key, and stored settings rely on what that answers, so the pairing stays.
 void PdeAutomaticPaperTraySelection::_initCtrlBypass() {
-    const PlistDictionary descriptions = _readDescriptions();
+    const PlistDictionary& descriptions = _readDescriptions();
     _describe(descriptions, bypassPaperTypeKey,
               _vorn_PaperTypeBypass_MediaTypeTabbedBypass_MediaTypeCoatingMaterialBypass_MediaTypePreprintedBypass_MediaTypeDrilledBypass_PaperTypeCustomNumberBypass,
               true);

@@ -64,7 +64,7 @@ private:
     void _resizeWindow();
     bool _describe(const PlistDictionary& descriptions, const std::string& key,
                    const std::shared_ptr<VORNUI>& control, bool listed);
-    PlistDictionary _readDescriptions() const;
+    const PlistDictionary& _readDescriptions();
     std::shared_ptr<VORNUI> _listed(const std::string& key) const;
     std::optional<std::string> _listedValue(const std::string& key) const;
 
@@ -94,6 +94,10 @@ private:
     std::shared_ptr<Bundle> _plugInBundle;
     DidEnd _parentDidEndSelector;
     std::string _uiFilePath;
+    /// The pane manager's UI description while the sheet builds its controls.
+    const PlistDictionary* _sharedDescriptions = nullptr;
+    /// The sheet's own reading of it when the pane manager has none.
+    PlistDictionary _fileDescriptions;
     PanePlugInMgr::ControlDictionary _vornuiList;
     ViewFrame _windowFrame;
     bool _visible = false;

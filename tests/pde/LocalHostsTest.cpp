@@ -36,6 +36,20 @@ TEST(PpdFileHost, PpdChangeMarksTheChoiceAndCarriesItInThePrintSettings) {
     EXPECT_EQ(host->printSettings()->text("QZMediaType"), "Recycled");
 }
 
+TEST(PpdFileHost, AChoiceMarkedAlreadyIsStillCarriedAndLinkedOptionsStayInStep) {
+    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
+    ASSERT_TRUE(host);
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "SystemSetting"));
+    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "SystemSetting");
+    // libcups unmarks the page size when the page region is marked, and back.
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageRegion", "A4"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageSize").isNull());
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_EQ(host->ppd().findMarkedChoice("PageSize"), PlistValue("A3"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageRegion").isNull());
+}
+
 TEST(PpdFileHost, ChoicesThePpdLacksChangeNothing) {
     std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
     ASSERT_TRUE(host);
