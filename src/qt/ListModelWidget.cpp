@@ -37,12 +37,12 @@ void ListModelWidget::showSelection() {
     scrollToItem(item(row));
 }
 
-// The press only asks: the list selects nothing until the controller has agreed.
+// The press only asks: the list selects nothing until the controller has agreed, and only
+// the main button asks at all.
 void ListModelWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return QListWidget::mousePressEvent(event);
     setFocus(Qt::MouseFocusReason);
     const int row = indexAt(event->position().toPoint()).row();
-    if (row >= 0 && row != _list.selectedRow()) emit rowClicked(row);
+    if (event->button() == Qt::LeftButton && row >= 0 && row != _list.selectedRow()) emit rowClicked(row);
     event->accept();
 }
 

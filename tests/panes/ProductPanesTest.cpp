@@ -17,8 +17,8 @@ namespace {
 
 const std::vector<std::string> productPanes = {
     "Color",         "Finishing",          "Job",         "Layout",       "Output",
-    "Page",          "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "SpecialToner",
-    "SpecialTonerSide+Front", "SpecialTonerSide+Back", "SpoolOptions"};
+    "Page",          "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "ExtraToner",
+    "ExtraTonerSide+Front", "ExtraTonerSide+Back", "SpoolOptions"};
 
 // The main keywords of the UI description's pane sections (the panel and the tray sheets
 // are not panes), read from the section marks of the file.
@@ -72,7 +72,7 @@ TEST(ProductPanes, TitlesComeFromEachBundlesOwnCatalogues) {
     {
         Language german("de");
         ManagerScope scope(productBundlePath());
-        EXPECT_EQ(scope.manager().panelNameOfBundleName("SpecialTonerSide+Back"),
+        EXPECT_EQ(scope.manager().panelNameOfBundleName("ExtraTonerSide+Back"),
                   std::optional<std::string>("Sondertoner: Rückseite"));
         EXPECT_EQ(scope.manager().panelNameOfBundleName("Finishing"), std::optional<std::string>("Endverarbeitung"));
     }

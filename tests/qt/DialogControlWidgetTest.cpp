@@ -134,6 +134,7 @@ TEST(ListModelWidget, AClickOrAKeyAsksAndSelectsNothingByItself) {
     view.show();
     QSignalSpy clicked(&view, &ListModelWidget::rowClicked);
     QSignalSpy keyed(&view, &ListModelWidget::rowChosenWithKeyboard);
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, view.visualItemRect(view.item(1)).center());
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(view.item(2)).center());
     ASSERT_EQ(clicked.count(), 1);
     EXPECT_EQ(clicked.front().front().value<std::int64_t>(), 2);
