@@ -58,13 +58,13 @@ public:
     const std::shared_ptr<PanelButton>& closeButton() const { return _close; }
 
 private:
-    void initCtrl();
-    void _initCtrlAutomatic();
-    void _initCtrlBypass();
+    void initCtrl(const PlistDictionary& descriptions);
+    void _initCtrlAutomatic(const PlistDictionary& descriptions);
+    void _initCtrlBypass(const PlistDictionary& descriptions);
     void _resizeWindow();
     bool _describe(const PlistDictionary& descriptions, const std::string& key,
                    const std::shared_ptr<VORNUI>& control, bool listed);
-    const PlistDictionary& _readDescriptions();
+    PlistDictionary _readDescriptions() const;
     std::shared_ptr<VORNUI> _listed(const std::string& key) const;
     std::optional<std::string> _listedValue(const std::string& key) const;
 
@@ -94,10 +94,6 @@ private:
     std::shared_ptr<Bundle> _plugInBundle;
     DidEnd _parentDidEndSelector;
     std::string _uiFilePath;
-    /// The pane manager's UI description while the sheet builds its controls.
-    const PlistDictionary* _sharedDescriptions = nullptr;
-    /// The sheet's own reading of it when the pane manager has none.
-    PlistDictionary _fileDescriptions;
     PanePlugInMgr::ControlDictionary _vornuiList;
     ViewFrame _windowFrame;
     bool _visible = false;
