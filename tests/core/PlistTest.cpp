@@ -86,10 +86,10 @@ TEST(PlistIO, TextWithANulByteNeverAbortsTheReader) {
 
 namespace {
 
-// A binary property list of levels arrays, each holding the next, the last one empty:
-// objects of one byte of type and count and a four-byte reference, then the offset table
-// and the trailer.
-std::string nestedBinaryList(std::uint32_t levels) {
+// A binary property list of levels arrays, each referring references times to the next,
+// the last one empty: objects of one byte of type and count and four-byte references, then
+// the offset table and the trailer.
+std::string nestedBinaryList(std::uint32_t levels, std::uint32_t references = 1) {
     const auto bigEndian = [](std::string& bytes, std::uint64_t value, int width) {
         for (int shift = (width - 1) * 8; shift >= 0; shift -= 8) bytes += static_cast<char>((value >> shift) & 0xFF);
     };
@@ -101,8 +101,8 @@ std::string nestedBinaryList(std::uint32_t levels) {
             bytes += '\xA0';
             break;
         }
-        bytes += '\xA1';
-        bigEndian(bytes, level + 1, 4);
+        bytes += static_cast<char>(0xA0 | references);
+        for (std::uint32_t reference = 0; reference < references; ++reference) bigEndian(bytes, level + 1, 4);
     }
     const std::uint64_t table = bytes.size();
     for (std::uint32_t offset : offsets) bigEndian(bytes, offset, 4);
@@ -115,7 +115,9 @@ std::string nestedBinaryList(std::uint32_t levels) {
 
 }  // namespace
 
-TEST(PlistIO, NestingFarDeeperThanAnyResourceAnswersNothing) {
+// libplist reads and frees such lists one call per level and copies a shared object once
+// per reference: each of these would overflow the stack, run for minutes or take gigabytes.
+TEST(PlistIO, NestingFarDeeperThanAnyResourceOrSharingPastItsSizeAnswersNothing) {
     const auto nested = [](std::size_t levels, const char* open, const char* close, const char* inner = "") {
         std::string body;
         for (std::size_t level = 0; level < levels; ++level) body += open;
@@ -123,7 +125,7 @@ TEST(PlistIO, NestingFarDeeperThanAnyResourceAnswersNothing) {
         for (std::size_t level = 0; level < levels; ++level) body += close;
         return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + body + "</plist>";
     };
-    EXPECT_FALSE(PlistIO::parse(nested(100000, "<array>", "</array>")));
+    EXPECT_FALSE(PlistIO::parse(nested(400000, "<array>", "</array>")));
     EXPECT_FALSE(PlistIO::parse(nested(257, "<array>", "</array>")));
     auto deepest = PlistIO::parse(nested(256, "<array>", "</array>"));
     ASSERT_TRUE(deepest);
@@ -132,7 +134,9 @@ TEST(PlistIO, NestingFarDeeperThanAnyResourceAnswersNothing) {
     EXPECT_TRUE(PlistIO::parse(nested(200, "<dict><key>k</key>", "</dict>", "<string>x</string>")));
     EXPECT_TRUE(PlistIO::parse(nestedBinaryList(256)));
     EXPECT_FALSE(PlistIO::parse(nestedBinaryList(257)));
-    EXPECT_FALSE(PlistIO::parse(nestedBinaryList(30000)));
+    EXPECT_FALSE(PlistIO::parse(nestedBinaryList(400000)));
+    EXPECT_TRUE(PlistIO::parse(nestedBinaryList(5, 2)));
+    EXPECT_FALSE(PlistIO::parse(nestedBinaryList(40, 2)));
 }
 
 TEST(PlistIO, NullEntriesAreLeftOutWhenWriting) {
