@@ -20,6 +20,7 @@ class ModalDialogView : public QDialog {
     Q_OBJECT
 public:
     ModalDialogView(ModalWindow& window, QWidget* parent);
+    ~ModalDialogView() override;
 
     ModalWindow& modalWindow() const { return _window; }
     /// Shows the controller's state: the window title and every control.
@@ -42,6 +43,7 @@ private:
 
     ModalWindow& _window;
     std::vector<TextFieldModelEdit*> _textFields;
+    QMetaObject::Connection _focusConnection;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin
