@@ -23,19 +23,15 @@ std::vector<std::string> titles(const PlainPopUpButton& popup) {
 
 }  // namespace
 
-TEST(PaneValues, ReadAndWriteBySettingKeyWithTheValueFirst) {
-    ManagerScope scope(fixtureBundlePath());
-    PanePlugInMgr& manager = scope.manager();
-    manager.setStringValue("B", "SideModeBack");
-    EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("B"));
-    EXPECT_EQ(manager.getStringValueFromKey("SideModeFront"), std::optional<std::string>("A"));
-    EXPECT_EQ(manager.getStringValueFromKey("NoSuchSetting"), std::nullopt);
-}
-
-TEST(PaneValues, DefaultsAreTakenOnceWhenFirstAskedFor) {
+// Values are read and written by setting key (the value first); the defaults are taken
+// once, when first asked for.
+TEST(PaneValues, ReadAndWriteBySettingKeyAndTakeTheDefaultsOnce) {
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
     manager.setStringValue("B", "SideModeFront");
+    EXPECT_EQ(manager.getStringValueFromKey("SideModeFront"), std::optional<std::string>("B"));
+    EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("A"));
+    EXPECT_EQ(manager.getStringValueFromKey("NoSuchSetting"), std::nullopt);
     const PlistDictionary defaults = manager.defaultSettings();
     EXPECT_EQ(defaults.stringFor("SideModeFront"), std::optional<std::string>("B"));
     EXPECT_EQ(defaults.stringFor("Deep"), std::optional<std::string>("True"));
@@ -45,25 +41,20 @@ TEST(PaneValues, DefaultsAreTakenOnceWhenFirstAskedFor) {
     EXPECT_EQ(manager.defaultSettings(), defaults);
 }
 
-TEST(PaneValues, GatheringAnswersNothingWhenTheServerSettingsApply) {
+// Gathering answers nothing when the server's settings apply; restoring nothing leaves
+// every setting as it was and asks no pane for anything.
+TEST(PaneValues, GatheringAndRestoringNothing) {
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
     manager.setStringValue("Spot", "SideNameFront");
     EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, true, false, false), std::nullopt);
-    auto gathered = manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
+    const auto gathered = manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
     ASSERT_TRUE(gathered);
     EXPECT_EQ(gathered->stringFor("SideNameFront"), std::optional<std::string>("Spot"));
     EXPECT_EQ(gathered->keys(), (std::vector<std::string>{"Deep", "DeepName", "Loose", "LooseOwn", "SideModeFront",
                                                          "SideNameFront", "SideModeBack", "SideNameBack"}));
-}
-
-TEST(PaneValues, RestoringNothingLeavesEverySettingAsItWas) {
-    ManagerScope scope(fixtureBundlePath());
-    PanePlugInMgr& manager = scope.manager();
-    manager.setStringValue("B", "SideModeFront");
-    const PlistDictionary before = *manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
     EXPECT_TRUE(manager.restorePrintOptionValues(nullptr));
-    EXPECT_EQ(*manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), before);
+    EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), gathered);
     EXPECT_EQ(recording(scope, "Page").calls(), (std::vector<std::string>{"initializePanel", "profileUiInformations"}));
 }
 
