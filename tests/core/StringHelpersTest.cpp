@@ -80,6 +80,14 @@ TEST(StringHelpers, LengthsCountUtf8BytesLossilyAndCharactersAsTextFieldsDo) {
     EXPECT_EQ(TextCharacters::decodeCharacters("\xC3\xA4\xFFz"), (std::u32string{U'\u00E4', U'\uFFFD', U'z'}));
 }
 
+TEST(StringHelpers, PrecomposedJoinsCombiningMarksAndLeavesIllFormedTextAlone) {
+    EXPECT_EQ(TextCharacters::precomposed(""), "");
+    EXPECT_EQ(TextCharacters::precomposed("Mu\xCC\x88ller"), "M\xC3\xBCller");
+    // Japanese voiced marks compose too: KA + combining voiced mark is GA.
+    EXPECT_EQ(TextCharacters::precomposed("\xE3\x81\x8B\xE3\x82\x99"), "\xE3\x81\x8C");
+    EXPECT_EQ(TextCharacters::precomposed("u\xCC\x88\xFF"), "u\xCC\x88\xFF");
+}
+
 TEST(ControlTitle, LabelSuffixIsDeleted) {
     EXPECT_EQ(stringByDeletingControlTitleSuffix("Paper Type:"), "Paper Type");
     EXPECT_EQ(stringByDeletingControlTitleSuffix("Papiertyp : "), "Papiertyp");

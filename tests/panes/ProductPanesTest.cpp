@@ -16,9 +16,8 @@ using namespace PaneTest;
 namespace {
 
 const std::vector<std::string> productPanes = {
-    "Color",         "Finishing",          "Job",         "Layout",       "Output",
-    "Page",          "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "ExtraToner",
-    "ExtraTonerSide+Front", "ExtraTonerSide+Back", "SpoolOptions"};
+    "Color", "ExtraToner", "ExtraTonerSide+Front", "ExtraTonerSide+Back", "Finishing", "Job", "Layout",
+    "Output", "Page", "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "SpoolOptions"};
 
 // The main keywords of the UI description's pane sections (the panel and the tray sheets
 // are not panes), read from the section marks of the file.
