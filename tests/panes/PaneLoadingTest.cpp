@@ -12,10 +12,6 @@ namespace {
 const std::vector<std::string> loadablePanes = {"Coded", "Deep", "Layout", "Loose",
                                                 "Other", "Page", "Sides+Front", "Sides+Back"};
 
-TestRecordingPane& recording(ManagerScope& scope, const std::string& name) {
-    return dynamic_cast<TestRecordingPane&>(*scope.pane(name));
-}
-
 }  // namespace
 
 // Every usable bundle loads once for each role, in path order; a bundle used in two roles
@@ -67,14 +63,14 @@ TEST(PaneLoading, LoadPanelViewLoadsOnePanelPerCall) {
     PanePlugInMgr& manager = scope.manager();
     EXPECT_TRUE(manager.loadPanelView());  // Coded
     EXPECT_TRUE(manager.loadPanelView());  // Deep
-    EXPECT_EQ(recording(scope, "Layout").panelViewCount(), 0);
+    EXPECT_EQ(scope.recording("Layout").panelViewCount(), 0);
     EXPECT_TRUE(manager.loadPanelView());
-    EXPECT_EQ(recording(scope, "Layout").panelViewCount(), 2);  // looked up with its panel, then asked
-    EXPECT_EQ(recording(scope, "Other").panelViewCount(), 0);
+    EXPECT_EQ(scope.recording("Layout").panelViewCount(), 2);  // looked up with its panel, then asked
+    EXPECT_EQ(scope.recording("Other").panelViewCount(), 0);
     for (std::size_t loaded = 3; loaded < loadablePanes.size(); ++loaded) EXPECT_TRUE(manager.loadPanelView());
     EXPECT_FALSE(manager.loadPanelView());
     EXPECT_FALSE(manager.loadPanelView());
-    EXPECT_EQ(recording(scope, "Page").panelViewCount(), 2);
+    EXPECT_EQ(scope.recording("Page").panelViewCount(), 2);
 }
 
 TEST(PaneLoading, PanelsOfTheBuiltInPaneAreLaidOutOnFirstRequest) {
@@ -150,7 +146,7 @@ TEST(PaneLoading, RebuildKeepsThePanesAndTakesTheDefaultsAnew) {
     EXPECT_EQ(scope.pane("Loose"), loose);
     EXPECT_EQ(scope.paneNames(), loadablePanes);
     EXPECT_EQ(manager.defaultSettings().stringFor("Loose"), std::optional<std::string>("True"));
-    EXPECT_EQ(recording(scope, "Other").panelViewCount(), 1);
+    EXPECT_EQ(scope.recording("Other").panelViewCount(), 1);
 }
 
 TEST(PaneLoading, ShowingThePanesMarksTheServerListsFetched) {
@@ -165,5 +161,5 @@ TEST(PaneLoading, ShowingThePanesMarksTheServerListsFetched) {
     EXPECT_TRUE(manager.isInitializedNetworkData());
     EXPECT_TRUE(manager.vornMgr().findUnrestorableConflictInfo(rules, 3, "x"));
     for (const char* name : {"Layout", "Other", "Page"})
-        EXPECT_EQ(recording(scope, name).calls().back(), "willShow") << name;
+        EXPECT_EQ(scope.recording(name).calls().back(), "willShow") << name;
 }

@@ -11,10 +11,6 @@ using namespace PaneTest;
 
 namespace {
 
-TestRecordingPane& recording(ManagerScope& scope, const std::string& name) {
-    return dynamic_cast<TestRecordingPane&>(*scope.pane(name));
-}
-
 std::vector<std::string> titles(const PlainPopUpButton& popup) {
     std::vector<std::string> list;
     for (const auto& item : popup.items()) list.push_back(item.title);
@@ -55,7 +51,7 @@ TEST(PaneValues, GatheringAndRestoringNothing) {
                                                          "SideNameFront", "SideModeBack", "SideNameBack"}));
     EXPECT_TRUE(manager.restorePrintOptionValues(nullptr));
     EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), gathered);
-    EXPECT_EQ(recording(scope, "Page").calls(), (std::vector<std::string>{"initializePanel", "profileUiInformations"}));
+    EXPECT_EQ(scope.recording("Page").calls(), (std::vector<std::string>{"initializePanel", "profileUiInformations"}));
 }
 
 TEST(PaneValues, RestoringShowsTheValuesAndPreparesThePanesByName) {
@@ -66,27 +62,27 @@ TEST(PaneValues, RestoringShowsTheValuesAndPreparesThePanesByName) {
     EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("B"));
     EXPECT_EQ(manager.getStringValueFromKey("Loose"), std::optional<std::string>("True"));
     EXPECT_EQ(manager.getStringValueFromKey("DeepName"), std::optional<std::string>("Proof"));
-    EXPECT_EQ(recording(scope, "Page").calls(),
+    EXPECT_EQ(scope.recording("Page").calls(),
               (std::vector<std::string>{"initializePanel", "profileUiInformations", "writeAutomaticPapaerTraySelection",
                                         "panelView"}));
-    EXPECT_EQ(recording(scope, "Layout").calls().back(), "panelView");
-    EXPECT_EQ(recording(scope, "Layout").calls().end()[-2], "willShow");
-    EXPECT_EQ(recording(scope, "Other").calls().back(), "panelView");
-    EXPECT_EQ(std::count(recording(scope, "Other").calls().begin(), recording(scope, "Other").calls().end(), "willShow"), 0);
+    EXPECT_EQ(scope.recording("Layout").calls().back(), "panelView");
+    EXPECT_EQ(scope.recording("Layout").calls().end()[-2], "willShow");
+    EXPECT_EQ(scope.recording("Other").calls().back(), "panelView");
+    EXPECT_EQ(std::count(scope.recording("Other").calls().begin(), scope.recording("Other").calls().end(), "willShow"), 0);
 }
 
 TEST(PaneValues, APaneFailingWhileRestoringIsShownAndStopsTheWalk) {
     ManagerScope scope(fixtureBundlePath());
     AlertScript alerts;
-    recording(scope, "Layout").failWillShowWith("layout went wrong");
+    scope.recording("Layout").failWillShowWith("layout went wrong");
     const PlistDictionary printOption = {{"Loose", "True"}};
     EXPECT_TRUE(scope.manager().restorePrintOptionValues(&printOption));
     ASSERT_EQ(alerts.asked().size(), 1u);
     EXPECT_EQ(alerts.asked()[0].informativeText, "layout went wrong");
     EXPECT_EQ(alerts.asked()[0].messageText, "Alert_Exception");  // the fixture has no string tables
     // Layout comes before Other and Page in the table: they were never reached.
-    EXPECT_EQ(recording(scope, "Other").panelViewCount(), 0);
-    EXPECT_EQ(recording(scope, "Page").calls().back(), "profileUiInformations");
+    EXPECT_EQ(scope.recording("Other").panelViewCount(), 0);
+    EXPECT_EQ(scope.recording("Page").calls().back(), "profileUiInformations");
     EXPECT_EQ(scope.manager().getStringValueFromKey("Loose"), std::optional<std::string>("True"));
 }
 
@@ -96,7 +92,7 @@ TEST(PaneValues, ProfileMenusAreNumberedAndNamedFromTheCurrentProfile) {
     OstrinTest::writeFile(path, "Tone2Name=Warm\r\nOther=1=2\r\nno separator\r\n");
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
-    TestRecordingPane& page = recording(scope, "Page");
+    TestRecordingPane& page = scope.recording("Page");
     EXPECT_EQ(titles(*page.toneMenu()), (std::vector<std::string>{"Tone 1", "Tone 2", "Tone 3"}));
     EXPECT_EQ(representedObjectOfMenuItemForKey(page.toneMenu()->items()[2], "optionKeyword")->stringOr(""), "Tone3");
 
@@ -122,7 +118,7 @@ TEST(PaneValues, EnabledStatesFollowTheServerSetting) {
     auto front = *scope.pane("Sides+Front")->getListVORNUI();
     manager.updateEnabledStates(std::nullopt, true, true, false);
     EXPECT_FALSE(front[0]->isEnabled());
-    EXPECT_EQ(recording(scope, "Other").calls().back(), "updateEnabledStates:server");
+    EXPECT_EQ(scope.recording("Other").calls().back(), "updateEnabledStates:server");
     manager.updateEnabledStates(std::nullopt, true, false, false);
     EXPECT_TRUE(front[0]->isEnabled());
     EXPECT_TRUE(manager._isEnable(std::string("pdf"), false, true, true));
@@ -149,7 +145,7 @@ TEST(PaneValues, RevertingAPaneShowsItsDefaults) {
     manager.revertToDefaultByBundleName("Sides+Back");
     EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("A"));
     manager.revertToDefaultByBundleName("Page");
-    EXPECT_EQ(recording(scope, "Page").calls().back(), "revertToDefault");
+    EXPECT_EQ(scope.recording("Page").calls().back(), "revertToDefault");
 }
 
 TEST(PaneValues, HidingAndEnablingListsOfControls) {

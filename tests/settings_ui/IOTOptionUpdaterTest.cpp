@@ -7,12 +7,6 @@ using namespace ComQuorvantVelmar_Plugin;
 
 namespace {
 
-std::vector<std::string> choicesOf(const VORNUI& control) {
-    std::vector<std::string> list;
-    for (const auto& item : control.popupItems()) list.push_back(item.choice);
-    return list;
-}
-
 bool updateWithPunch(VORNUI& control, const PlistDictionary& device) {
     IOTOptionUpdater::Groups devices, options;
     IOTOptionUpdater::getPunchOptionsWithKeyDevices(devices, options);
@@ -35,13 +29,13 @@ TEST(IOTOptionUpdater, PunchKeepsTheChoicesOfItsDevicesOrIsHidden) {
     auto punch = SettingsTest::buildControl("Punch_PunchHoles");
     EXPECT_TRUE(updateWithPunch(*punch, PlistDictionary{{"quadPunch", "true"}, {"doublePunch", "false"}}));
     EXPECT_FALSE(punch->isHidden());
-    EXPECT_EQ(choicesOf(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
+    EXPECT_EQ(SettingsTest::popupChoices(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
     punch->selectItemAtIndex(2);
     EXPECT_EQ(punch->getStringValue(), "TopHoles4");
     auto hidden = SettingsTest::buildControl("Punch_PunchHoles");
     EXPECT_FALSE(updateWithPunch(*hidden, PlistDictionary{{"quadPunch", "True"}, {"offset", "true"}}));
     EXPECT_TRUE(hidden->isHidden());
-    EXPECT_EQ(choicesOf(*hidden).size(), 8u);
+    EXPECT_EQ(SettingsTest::popupChoices(*hidden).size(), 8u);
     IOTOptionUpdater::Groups devices, options;
     auto staple = SettingsTest::buildControl("StapleMode");
     EXPECT_FALSE(IOTOptionUpdater::updatePopupButtonComponent(staple.get(), nullptr, &devices, &options));

@@ -5,6 +5,7 @@
 
 using namespace ComQuorvantVelmar_Plugin;
 using SettingsTest::AlertScript;
+using SettingsTest::choose;
 using SettingsTest::Language;
 using SettingsTest::NetworkData;
 using SettingsTest::NotificationRecorder;
@@ -14,15 +15,6 @@ namespace {
 const std::vector<std::string> finishingKeywords = {"DuplexMode", "PaperTypeD", "StapleMode", "OutputTray",
                                                     "Fold",       "OffsetMode", "ChgPrintPaperSizeType",
                                                     "ImpositionMode_ImpositionCustomMode", "Magnification"};
-
-// The user picks choice in the pop-up of keyword, as a click does.
-void choose(VORNMgr& manager, const std::string& keyword, const std::string& choice) {
-    auto control = manager.controlsOf(keyword)->front();
-    const auto& items = control->popupItems();
-    for (std::size_t index = 0; index < items.size(); ++index)
-        if (items[index].choice == choice) control->selectItemAtIndex(static_cast<int>(index));
-    control->popupButtonAction();
-}
 
 }  // namespace
 

@@ -19,12 +19,6 @@ public:
     std::vector<VORNUIChange> changes;
 };
 
-std::vector<std::string> choicesOf(const VORNUI& control) {
-    std::vector<std::string> list;
-    for (const auto& item : control.popupItems()) list.push_back(item.choice);
-    return list;
-}
-
 }  // namespace
 
 TEST(CheckBox, InvertedBoxShowsTheOppositeOfItsStoredState) {
@@ -99,7 +93,7 @@ TEST(Popup, ItemArraysAddAndRemoveEntries) {
     paper->setStringValue("Custom_Off_Uncoated_Off_None_1");
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
     paper->removePopupButtonArray(PlistArray{"Transparency", PlistArray{"x", "Envelope"}});
-    EXPECT_EQ(choicesOf(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
+    EXPECT_EQ(SettingsTest::popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
                                                            "Custom_Off_Uncoated_Off_None_1"}));
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
 }
