@@ -298,3 +298,33 @@ TEST_F(FavoriteManager, WithoutADefaultsProviderThePanesGiveTheDefaults) {
     EXPECT_TRUE(ShowFavoriteModalDialog(kCurrent));
     PanePlugInMgr::setSharedInstance(nullptr);
 }
+
+// Through the panes of the product: a favorite that trims the face and keeps the zoom of
+// the defaults ("100" against "100.0") marks the face trim alone and opens its pane.
+TEST_F(FavoriteManager, TheSummaryTreeMarksAndOpensTheSettingsThatDifferFromTheDefaults) {
+    PanePlugInMgr::setSharedInstance(nullptr);
+    PanePlugInMgr::sharedInstance()->loadPlugIns();
+    writeFavorite(favorite("Trimmed"), "", {{"FN_FACETRIM", "1"}, {"IM_MAG", "100"}});
+    OutlineViewModel outline;
+    PrintOptionTreeDataSource tree;
+    tree.setOutlineView(&outline, false);
+    controller.setSettingTree(&tree);
+    // The marked rows and the opened panes of the tree as it shows the row named row.
+    auto marksFor = [&](const std::string& row) {
+        controller.selectRow(rowNamed(row));
+        std::vector<std::string> marks;
+        for (const auto& shown : outline.rows()) {
+            const OutlineCell cell = tree.objectValueForItem(shown.item);
+            if (outline.isItemExpanded(shown.item)) marks.push_back("open " + cell.label);
+            if (cell.iconName == "emblem-important") marks.push_back("marked " + cell.label);
+        }
+        return marks;
+    };
+    runner->queue([&](ModalWindow&) {
+        EXPECT_EQ(marksFor("Trimmed"), (std::vector<std::string>{"open Finishing", "marked Face Trim"}));
+        EXPECT_EQ(marksFor("Default Settings"), std::vector<std::string>{});
+        controller.clickedCancel();
+    });
+    controller.showAsModalDialog("", kCurrent, nullptr);
+    PanePlugInMgr::setSharedInstance(nullptr);
+}
