@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include <filesystem>
 
 #include "CommandRunner.h"
@@ -7,6 +9,7 @@
 
 namespace fs = std::filesystem;
 using OstrinTest::dataPath;
+using Json = nlohmann::ordered_json;
 
 namespace {
 
@@ -161,4 +164,51 @@ TEST_F(FavoritesCommand, BundleWithoutFolderNamesIsAnInputError) {
     fs::create_directories(file("Empty.bundle/Contents"));
     expectInputError(run({"--resources", file("Empty.bundle"), "favorites", "list"}),
                      file("Empty.bundle") + ": no extension bundle naming the favorites folder");
+}
+
+TEST_F(FavoritesCommand, SavedSettingsComeBackThroughOptionsWithTheFavorite) {
+    const std::vector<std::string> changes{"-o", "StapleMode=Saddle", "-o", "DuplexMode=DuplexNoTumble",
+                                           "-o", "Trimmer=True"};
+    std::vector<std::string> save{"favorites", "save", "Proofs", "--comment", "for Ana"};
+    save.insert(save.end(), changes.begin(), changes.end());
+    const auto saved = run(save);
+    ASSERT_EQ(saved.exitCode, 0) << saved.err;
+    EXPECT_EQ(saved.out, "");
+    const std::string path = favoritesFolder() + "/Proofs.pqz";
+    EXPECT_EQ(run({"favorites", "list"}).out, "Proofs\n  comment: for Ana\n  path: " + path + "\n");
+
+    std::vector<std::string> direct{"--format", "json", "options"};
+    direct.insert(direct.end(), changes.begin(), changes.end());
+    const Json expected = Json::parse(run(direct).out);
+    const Json restored = Json::parse(run({"--format", "json", "options", "--favorite", "Proofs"}).out);
+    for (const auto& [group, settings] : expected.items())
+        for (const auto& [key, value] : settings.items()) EXPECT_EQ(restored[group].value(key, Json()), value) << key;
+    EXPECT_EQ(restored["custom"]["FavoriteName"], path);
+    // Later -o changes win over the favorite.
+    const Json changed =
+        Json::parse(run({"--format", "json", "options", "--favorite", "Proofs", "-o", "DuplexMode=None"}).out);
+    EXPECT_EQ(restored["ppd"]["DuplexMode"], "DuplexNoTumble");
+    EXPECT_EQ(changed["ppd"]["DuplexMode"], "None");
+    EXPECT_EQ(changed["ppd"]["StapleMode"], "Saddle");
+}
+
+TEST_F(FavoritesCommand, RefusedNamesCommentsAndFavoritesExitThree) {
+    addFavorite("other-device.pqz", "Other");
+    const std::string longComment(256, 'c');
+    const struct {
+        std::vector<std::string> arguments;
+        std::string message;
+    } cases[] = {
+        {{"favorites", "save", "Default Settings"},
+         "cannot save favorite \"Default Settings\": This name belongs to the default settings. Please choose "
+         "another name."},
+        {{"favorites", "save", "Proofs", "--comment", longComment},
+         "cannot save favorite \"Proofs\": --comment: A comment must not be longer than 255 bytes."},
+        {{"options", "--favorite", "Nope"}, "unknown favorite \"Nope\""},
+        {{"favorites", "save", "Copy", "--favorite", "Other"},
+         "favorite \"Other\" is not a favorite file this printer can use"},
+    };
+    for (const auto& probe : cases) expectInputError(run(probe.arguments), probe.message);
+    EXPECT_FALSE(fs::exists(favoritesFolder() + "/Copy.pqz"));
+    EXPECT_EQ(run({"favorites", "save"}).exitCode, 2);
 }
