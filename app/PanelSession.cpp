@@ -190,6 +190,11 @@ void PanelSession::applyChange(const std::string& key, const std::string& value)
     NotifyUnit::postNotificationName(key, PlistDictionary{{"Paramater", value}});
     if (!choices.empty() && _manager->getStringValueFromKey(key) != value)
         throw CommandError(ExitRefused, argument + ": refused, it conflicts with other settings (see --answer)");
+    // The panel's model follows every setting, as the detailed settings window hands them
+    // over: a later change of the panel's own settings checks it against the favorite and
+    // may put it back into the panes.
+    if (auto gathered = _manager->gatherPrintOptionValues(nullptr, std::nullopt, false, false, false))
+        for (auto& [name, gatheredValue] : *gathered) _panel->printOption().set(name, std::move(gatheredValue));
 }
 
 void PanelSession::applyJobName(const std::string& jobName) {

@@ -183,8 +183,10 @@ TEST_F(FavoritesCommand, BundleWithoutFolderNamesIsAnInputError) {
 }
 
 TEST_F(FavoritesCommand, SavedSettingsComeBackThroughOptionsWithTheFavorite) {
-    const std::vector<std::string> changes{"-o", "StapleMode=Saddle", "-o", "DuplexMode=DuplexNoTumble",
-                                           "-o", "Trimmer=True"};
+    // A setting of the panes, then settings of the panel, which check the model against the
+    // favorite selected (the defaults) and must not take the first one back.
+    const std::vector<std::string> changes{"-o", "Trimmer=True", "-o", "StapleMode=Saddle",
+                                           "-o", "DuplexMode=DuplexNoTumble"};
     std::vector<std::string> save{"favorites", "save", "Proofs", "--comment", "for Ana"};
     save.insert(save.end(), changes.begin(), changes.end());
     const auto saved = run(save);
@@ -196,6 +198,7 @@ TEST_F(FavoritesCommand, SavedSettingsComeBackThroughOptionsWithTheFavorite) {
     std::vector<std::string> direct{"--format", "json", "options"};
     direct.insert(direct.end(), changes.begin(), changes.end());
     const Json expected = Json::parse(run(direct).out);
+    EXPECT_EQ(expected["ppd"]["Trimmer"], "True");
     const Json restored = Json::parse(run({"--format", "json", "options", "--favorite", "Proofs"}).out);
     for (const auto& [group, settings] : expected.items())
         for (const auto& [key, value] : settings.items()) EXPECT_EQ(restored[group].value(key, Json()), value) << key;
