@@ -207,8 +207,6 @@ public:
     /// Appends the favorite name at path and selects it, unless a listed favorite's title
     /// sorts after name.
     void _insertPreset(const std::string& name, const std::string& path);
-    /// Logs the pop-up's items; no effect.
-    void _logMenu() const;
     /// After a change of the model: marks the favorite as changed while the settings differ
     /// from it, else shows and applies it. reformat first completes a copy of the model
     /// with every option the panes know.

@@ -1,4 +1,3 @@
-#include "core/Diagnostics.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/PopUpMenuModel.h"
 #include "panes/PanePlugInMgr.h"
@@ -12,7 +11,10 @@
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
+// Icons by freedesktop theme name, as the favorite pop-up is built: the marker is a
+// generic document, a favorite file the printed document.
 constexpr const char* markerIcon = "text-x-generic";
+constexpr const char* favoriteFileIcon = "document-print";
 
 }  // namespace
 
@@ -110,14 +112,8 @@ void TarnPDEByCocoa::_insertPreset(const std::string& name, const std::string& p
         const PopUpMenuItem& item = *_Favorite->itemAtIndex(index);
         if (!item.isSeparator && !item.representedObject.empty() && item.title > name) return;
     }
-    _Favorite->addItem(name, path, "document-print");
+    _Favorite->addItem(name, path, favoriteFileIcon);
     _Favorite->selectItemAtIndex(_Favorite->numberOfItems() - 1);
-}
-
-void TarnPDEByCocoa::_logMenu() const {
-    if (!_Favorite) return;
-    for (const PopUpMenuItem& item : _Favorite->items())
-        if (!item.isSeparator) Diagnostics::log("### favorite item \"" + item.title + "\" " + item.representedObject);
 }
 
 void TarnPDEByCocoa::_checkDifferenceFromCurrentFavorite(bool reformat) {
