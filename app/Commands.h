@@ -30,7 +30,7 @@ int restoreCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Prints one list of the print server as rows.
 int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
 
-/// favorites list|show NAME|delete NAME|import FILE|export NAME FILE
+/// favorites list|show NAME|save NAME|delete NAME|import FILE|export NAME FILE
 int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments);
 
 }  // namespace OstrinFlowCommand

@@ -5,6 +5,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "JsonIO.h"
+#include "PanelSession.h"
 #include "core/AtomicFile.h"
 #include "core/FileUtil.h"
 #include "favorites/AppPreference.h"
@@ -12,6 +13,7 @@
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteItem.h"
 #include "favorites/Trash.h"
+#include "pde/TarnPDEByCocoa.h"
 
 namespace OstrinFlowCommand {
 namespace {
@@ -156,6 +158,24 @@ int exportFavorite(const std::string& name, std::string file) {
     return ExitSuccess;
 }
 
+// The settings as options works them out, saved as the favorite pop-up's save does; a
+// favorite of that name is replaced, as in the save dialog.
+int save(const GlobalOptions& options, ArgumentList& arguments) {
+    const SettingsRequest request = SettingsRequest::take(arguments);
+    const std::string comment = arguments.take("comment").value_or("");
+    const std::string name = arguments.positionals(1, 1).front();
+    favoritesFolder(options);
+    if (auto message = FavoriteItem::checkName(name))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": " + *message);
+    if (auto message = FavoriteItem::checkComment(comment))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": --comment: " + *message);
+    PanelSession session(options);
+    if (const int refused = session.apply(request)) return refused;
+    if (!session.panel().saveFavorite(name, comment))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": the settings have nothing a favorite keeps");
+    return ExitSuccess;
+}
+
 }  // namespace
 
 int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments) {
@@ -171,13 +191,14 @@ int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments) {
         if (action == "show") return show(options, argument);
         return action == "delete" ? remove(argument) : import(argument, folder);
     }
+    if (action == "save") return save(options, arguments);
     if (action == "export") {
         const auto names = arguments.positionals(2, 2);
         favoritesFolder(options);
         return exportFavorite(names[0], names[1]);
     }
-    if (action.empty()) throw UsageError("favorites needs one of list, show, delete, import, export");
-    throw UsageError("favorites has no action \"" + action + "\" (list, show, delete, import, export)");
+    if (action.empty()) throw UsageError("favorites needs one of list, show, save, delete, import, export");
+    throw UsageError("favorites has no action \"" + action + "\" (list, show, save, delete, import, export)");
 }
 
 }  // namespace OstrinFlowCommand
