@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdio>
+#include <set>
 #include <vector>
 
 #include "CommandError.h"
@@ -14,6 +15,7 @@
 #include "favorites/FavoriteItem.h"
 #include "favorites/Trash.h"
 #include "pde/TarnPDEByCocoa.h"
+#include "ppd/PrintOptionConverter.h"
 
 namespace OstrinFlowCommand {
 namespace {
@@ -103,10 +105,26 @@ int list(const GlobalOptions& options) {
     return ExitSuccess;
 }
 
+// The panel saves a favorite's settings as the press's job tags; they are shown under the
+// panes' own keys, as the panel applies them. Other keys are shown as the file holds them.
+PlistDictionary internalForm(const PlistDictionary& saved) {
+    const PrintOptionConverter& converter = PrintOptionConverter::sharedInstance();
+    std::set<std::string> tags;
+    if (auto table = converter.convertTable())
+        for (const auto& [keyword, entry] : *table)
+            if (const PlistDictionary* fields = entry.dictionary())
+                if (auto tag = fields->stringFor("tagKey")) tags.insert(*tag);
+    PlistDictionary shown = converter.toPpdKeywordFormat(saved);
+    PrintOptionConverter::convertToInternalPpdKeyword(shown);
+    for (const auto& [key, value] : saved)
+        if (!tags.count(key) && !shown.contains(key)) shown.set(key, value);
+    return shown;
+}
+
 int show(const GlobalOptions& options, const std::string& name) {
     const std::string format = options.formatAmong({"text", "json", "tsv"});
     const FavoriteFile favorite = readableFavorite(favoritePath(name), "favorite \"" + name + "\"");
-    const PlistDictionary& favoriteOptions = *favorite.options();
+    const PlistDictionary favoriteOptions = internalForm(*favorite.options());
     if (format == "json") {
         printJson(toJson(PlistValue(favoriteOptions)));
         return ExitSuccess;

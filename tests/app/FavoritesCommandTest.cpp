@@ -194,6 +194,9 @@ TEST_F(FavoritesCommand, SavedSettingsComeBackThroughOptionsWithTheFavorite) {
     EXPECT_EQ(saved.out, "");
     const std::string path = favoritesFolder() + "/Proofs.pqz";
     EXPECT_EQ(run({"favorites", "list"}).out, "Proofs\n  comment: for Ana\n  path: " + path + "\n");
+    const Json shown = Json::parse(run({"--format", "json", "favorites", "show", "Proofs"}).out);
+    EXPECT_EQ(shown.value("Trimmer", Json()), true);
+    EXPECT_EQ(shown.value("StapleMode", Json()), "Saddle");
 
     std::vector<std::string> direct{"--format", "json", "options"};
     direct.insert(direct.end(), changes.begin(), changes.end());
