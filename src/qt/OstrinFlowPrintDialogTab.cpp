@@ -92,8 +92,10 @@ OstrinFlowPrintDialogTab::OstrinFlowPrintDialogTab(QPrintDialog& dialog, std::un
     connect(&dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), this, &OstrinFlowPrintDialogTab::dialogAccepted);
 }
 
-// The panel goes before the host it reads; the dialog has deleted the tab's page already.
+// The page showing the panel's controls goes first (unless the dialog deleted it), then
+// the panel, then the host it reads.
 OstrinFlowPrintDialogTab::~OstrinFlowPrintDialogTab() {
+    delete _widget.data();
     _dialogs.reset();
     _panel.reset();
 }
