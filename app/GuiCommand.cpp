@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -56,10 +57,19 @@ void holdStartMessage(QtMsgType type, const QMessageLogContext&, const QString& 
     std::_Exit(ExitUsage);
 }
 
-void releaseStartMessages() {
+std::unique_ptr<QApplication> startQt() {
+    static int argc = 1;
+    static char name[] = "ostrin-flow";
+    static char* argv[] = {name, nullptr};
+    standardHandler = qInstallMessageHandler(holdStartMessage);
+    auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(standardHandler);
     for (const auto& [type, message] : startMessages) qt_message_output(type, QMessageLogContext(), message);
     startMessages.clear();
+    // The desktop's window list finds the menu entry and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("ostrin-flow"));
+    QtIcons::useFallbackTheme();
+    return application;
 }
 
 std::string shownPpdPath(const GlobalOptions& options) {
@@ -89,15 +99,7 @@ int guiCommand(const GlobalOptions& options, ArgumentList& arguments) {
     arguments.positionals(0, 0);
     PanelSession session(options);
     requireDisplay();
-    static int argc = 1;
-    static char name[] = "ostrin-flow";
-    static char* argv[] = {name, nullptr};
-    standardHandler = qInstallMessageHandler(holdStartMessage);
-    QApplication application(argc, argv);
-    releaseStartMessages();
-    QGuiApplication::setDesktopFileName(QStringLiteral("ostrin-flow"));
-    QtIcons::useFallbackTheme();
-
+    const std::unique_ptr<QApplication> application = startQt();
     session.panel().restoreValuesAndReturnError();
     PanelWindow window(session.panel(), session.host(), options.queue, shownPpdPath(options));
     if (isSet("OSTRIN_GUI_QUIT_AFTER_SHOWN")) {
