@@ -53,7 +53,6 @@ TEST(PanelWindow, WithoutAQueuePrintAndSaveAreUnavailableAndTheNoteSaysWhy) {
     EXPECT_FALSE(window.saveDefaultsButton()->isEnabled());
     EXPECT_TRUE(window.noteText().contains(QStringLiteral("--queue NAME")));
     EXPECT_TRUE(window.noteText().contains(QString::fromStdString(SamplePpd)));
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Ostrin Flow \u2014 OstrinFlow.ppd"));
 }
 
 TEST(PanelWindow, PrintSubmitsTheChosenFileWithThePanelsSettings) {
