@@ -167,6 +167,24 @@ const std::string kFavoritesHelp = std::string(
     "An unknown favorite, a refused name or comment, or a refused file exits with 3 and one\n"
     "line on stderr; refused settings exit with 1.\n";
 
+const char* const kGuiHelp =
+    "Usage: ostrin-flow [--queue NAME | --ppd FILE] [--lang LANG] gui\n\n"
+    "Opens the panel in a window, as the print dialog shows it, for the queue (its PPD and\n"
+    "your saved options), the PPD file, or the sample PPD of the extension bundle.\n\n"
+    "  Print...          asks for a file and prints it on the queue with the settings, as\n"
+    "                    print does; prints the job id and closes the window\n"
+    "  Save as defaults  writes the settings as your saved options of the queue, as\n"
+    "                    save-defaults does; the window stays open\n"
+    "  Cancel            closes the window; nothing is printed or saved\n\n"
+    "Both first run the consistency check and the panel's save; their questions and\n"
+    "refusals appear in the window, which stays open. Without --queue (with --ppd or the\n"
+    "sample PPD) there is nothing to print to or save for: Print... and Save as defaults\n"
+    "are unavailable and the window says so.\n\n"
+    "Needs a display: DISPLAY (X11) or WAYLAND_DISPLAY; QT_QPA_PLATFORM chooses Qt's\n"
+    "platform as for any Qt program.\n\n"
+    "Exit status 0 once the window is closed, 2 without a display that can be opened, 3 for\n"
+    "a missing or malformed PPD or an unknown queue, 4 when cupsd cannot be reached.\n";
+
 }  // namespace
 
 const std::vector<Command>& commandTable() {
@@ -246,6 +264,7 @@ const std::vector<Command>& commandTable() {
         {"restore", "the queue's saved options as the internal print option dictionary", kRestoreHelp,
          restoreCommand},
         {"server", "one list of the print server as rows", kServerHelp, serverCommand},
+        {"gui", "opens the panel window for the queue or PPD", kGuiHelp, guiCommand},
     };
     return table;
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+class QWidget;
+
+namespace ComQuorvantVelmar_Plugin {
+
+class QtDialogs;
+class TarnPDEByCocoa;
+
+/// Where the panel meets Qt: the one place that makes the panel's widget and the windows
+/// behind its buttons, for the print dialog tab and the panel window alike.
+namespace PanelViews {
+
+/// The panel's controls, built and showing the model (willShow), as a widget under
+/// parent; the panel must outlive it.
+QWidget* createPanelWidget(TarnPDEByCocoa& panel, QWidget* parent);
+
+/// The windows the panel's buttons open and the engine's messages and file requests, as
+/// sheets of window, until the answer goes; window may be nullptr (application-modal).
+std::unique_ptr<QtDialogs> installPanelDialogs(QWidget* window);
+
+}  // namespace PanelViews
+}  // namespace ComQuorvantVelmar_Plugin
