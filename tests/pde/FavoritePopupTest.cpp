@@ -26,16 +26,10 @@ namespace {
 class FavoritePopup : public ::testing::Test {
 protected:
     void SetUp() override {
-        ::setenv("XDG_CONFIG_HOME", _home.file("config").c_str(), 1);
-        ::setenv("XDG_DATA_HOME", _home.file("data").c_str(), 1);
         _scope.emplace();
         panel().willShow();
     }
-    void TearDown() override {
-        _scope.reset();
-        ::unsetenv("XDG_CONFIG_HOME");
-        ::unsetenv("XDG_DATA_HOME");
-    }
+    void TearDown() override { _scope.reset(); }
 
     PanelScope& scope() { return *_scope; }
     TarnPDEByCocoa& panel() { return _scope->panel(); }
@@ -65,6 +59,8 @@ protected:
 
 private:
     OstrinTest::TemporaryDirectory _home;
+    OstrinTest::EnvironmentOverride _config{"XDG_CONFIG_HOME", _home.file("config")};
+    OstrinTest::EnvironmentOverride _data{"XDG_DATA_HOME", _home.file("data")};
     std::optional<PanelScope> _scope;
 };
 
