@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -190,6 +191,11 @@ public:
     }
     const std::shared_ptr<PanelButton>& bypassPaperTraySelectionButton() const { return _bypassPaperTraySelectionButton; }
     const std::shared_ptr<PanelLabel>& jobNameLabel() const { return _jobName; }
+    /// The favorite pop-up; the view layer shows it beside its title label, hidden with it.
+    const std::shared_ptr<PopUpMenuModel>& favoritePopup() const { return _Favorite; }
+    const std::shared_ptr<PanelLabel>& favoriteTitleLabel() const { return _titleFavorite; }
+    /// The user chose the item at index of the favorite pop-up: the pop-up's action.
+    void favoritePopupChoseItem(std::int64_t index);
 
 private:
     // initialisation
