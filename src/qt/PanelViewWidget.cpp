@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "pde/PanelButton.h"
 #include "pde/PanelLabel.h"
 #include "qt/VORNUIWidget.h"
@@ -17,12 +19,21 @@ namespace {
 // A long job name would widen the whole panel; it is cut with an ellipsis instead and
 // shown whole as the label's tool tip.
 constexpr int widestLabel = 260;
+// Columns of settings stand as far apart as groups of a form do.
+constexpr int columnGap = 24;
 
 // A container cut to a height (as the panel cuts its favorite row) no longer shows the
 // views that begin at or below that height.
 bool isCutOff(const ViewNode& view) {
     const ViewNode* container = view.superview();
     return container && container->frame().height > 0 && view.frame().y >= container->frame().height;
+}
+
+// A setting is laid out as wide as a pane's column; here it is as wide as what it shows,
+// so that settings side by side stay close. One with settings of its own keeps its width.
+void fitToContent(VORNUIWidget& setting) {
+    if (!setting.childWidgets().empty()) return;
+    setting.setMaximumWidth(setting.ownPart()->sizeHint().width());
 }
 
 void showLabel(const PanelLabel& label, QLabel& widget) {
@@ -34,14 +45,41 @@ void showLabel(const PanelLabel& label, QLabel& widget) {
 
 }  // namespace
 
-PanelViewWidget::PanelViewWidget(std::shared_ptr<ViewNode> root, QWidget* parent)
+PanelViewWidget::PanelViewWidget(std::shared_ptr<ViewNode> root, int settingColumns, QWidget* parent)
     : QWidget(parent), _root(std::move(root)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    if (_root)
-        for (const auto& view : _root->subviews()) addToColumn(view, column);
+    std::vector<std::shared_ptr<ViewNode>> settings;
+    for (const auto& view : _root ? _root->subviews() : std::vector<std::shared_ptr<ViewNode>>{}) {
+        if (std::dynamic_pointer_cast<VORNUI>(view)) {
+            settings.push_back(view);
+            continue;
+        }
+        addSettings(settings, settingColumns, column);
+        settings.clear();
+        addToColumn(view, column);
+    }
+    addSettings(settings, settingColumns, column);
     column->addStretch(1);
     refresh();
+}
+
+void PanelViewWidget::addSettings(const std::vector<std::shared_ptr<ViewNode>>& settings, int columns,
+                                  QBoxLayout* column) {
+    if (settings.empty()) return;
+    columns = std::max(1, columns);
+    const std::size_t perColumn = (settings.size() + columns - 1) / columns;
+    auto* sideBySide = new QHBoxLayout;
+    for (std::size_t first = 0; first < settings.size(); first += perColumn) {
+        if (first > 0) sideBySide->addSpacing(columnGap);
+        auto* stack = new QVBoxLayout;
+        for (std::size_t index = first; index < std::min(settings.size(), first + perColumn); ++index)
+            stack->addWidget(render(settings[index], this, false));
+        stack->addStretch(1);
+        sideBySide->addLayout(stack);
+    }
+    sideBySide->addStretch(1);
+    column->addLayout(sideBySide);
 }
 
 void PanelViewWidget::addToColumn(const std::shared_ptr<ViewNode>& view, QBoxLayout* column) {
@@ -111,12 +149,12 @@ QPushButton* PanelViewWidget::buttonFor(const PanelButton& button) const {
     return qobject_cast<QPushButton*>(widgetFor(&button));
 }
 
-bool PanelViewWidget::insertAfter(const ViewNode& view, QWidget* widget) {
+bool PanelViewWidget::insertBeside(const ViewNode& view, QWidget* widget, bool before) {
     QWidget* shown = widgetFor(&view);
     if (!shown || shown->parentWidget() == this) return false;
     auto* row = qobject_cast<QBoxLayout*>(shown->parentWidget()->layout());
     if (!row) return false;
-    row->insertWidget(row->indexOf(shown) + 1, widget);
+    row->insertWidget(row->indexOf(shown) + (before ? 0 : 1), widget);
     _shown[&view].companions.push_back(widget);
     refresh();
     return true;
@@ -138,6 +176,7 @@ void PanelViewWidget::show(const ViewNode& view, QWidget* widget) const {
         showLabel(*label, *static_cast<QLabel*>(widget));
     } else if (auto* control = dynamic_cast<const VORNUI*>(&view)) {
         visible = visible && !control->isHidden();
+        fitToContent(*static_cast<VORNUIWidget*>(widget));
     } else if (!view.subviews().empty()) {
         bool anyShown = false;
         for (const auto& subview : view.subviews())

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "core/LocalizedString.h"
 #include "pde/PanelLabel.h"
 #include "pde/TarnPDEByCocoa.h"
 #include "qt/PanelViewWidget.h"
@@ -15,11 +16,24 @@
 #include "settings_ui/VORNUI.h"
 
 namespace ComQuorvantVelmar_Plugin {
+namespace {
 
+// The panel's handful of settings stand in two columns, so that the panel fits beside the
+// print dialog's own settings.
+constexpr int settingColumns = 2;
+
+}  // namespace
+
+// The job name label shows only the name (or "Auto"); a caption before it says what it is.
 PanelWidget::PanelWidget(TarnPDEByCocoa& panel, QWidget* parent)
-    : QWidget(parent), _panel(panel), _view(new PanelViewWidget(panel.panelView(), this)), _favorites(new QComboBox(this)) {
+    : QWidget(parent),
+      _panel(panel),
+      _view(new PanelViewWidget(panel.panelView(), settingColumns, this)),
+      _favorites(new QComboBox(this)) {
     _favorites->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    if (!_view->insertAfter(*_panel.favoriteTitleLabel(), _favorites)) _favorites->hide();
+    if (!_view->insertBeside(*_panel.favoriteTitleLabel(), _favorites)) _favorites->hide();
+    auto* jobNameCaption = new QLabel(QString::fromStdString(BSLocalizedString("Job name:")), this);
+    if (!_view->insertBeside(*_panel.jobNameLabel(), jobNameCaption, true)) jobNameCaption->hide();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(_view);
     connect(_view, &PanelViewWidget::actionRan, this, &PanelWidget::refresh);

@@ -10,9 +10,16 @@
 #include "qt/PanelViewWidget.h"
 
 namespace ComQuorvantVelmar_Plugin {
+namespace {
+
+// The paper's attributes stand in two columns, so that the sheet stays low enough for a
+// small screen.
+constexpr int settingColumns = 2;
+
+}  // namespace
 
 TraySheetWindow::TraySheetWindow(std::shared_ptr<PdeAutomaticPaperTraySelection> sheet, QWidget* parent)
-    : ModalDialogView(*sheet, parent), _sheet(std::move(sheet)), _content(new PanelViewWidget(_sheet->contentView(), this)) {
+    : ModalDialogView(*sheet, parent), _sheet(std::move(sheet)), _content(new PanelViewWidget(_sheet->contentView(), settingColumns, this)) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(_content);
     layout->setSizeConstraint(QLayout::SetMinimumSize);
