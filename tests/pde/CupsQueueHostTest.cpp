@@ -160,21 +160,25 @@ TEST_F(CupsQueueHostTest, SavedOptionsAreWrittenAndReadBack) {
     EXPECT_EQ(TicketValueEscaping::unescape(attributes[PrintSettingsTicket::customKey("JobName")]), JobName);
 }
 
-TEST_F(CupsQueueHostTest, RemovedAndEmptySettingsAreNotSaved) {
+TEST_F(CupsQueueHostTest, RemovedSettingsAreNotSavedAndEmptyOnesComeBackEmpty) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
     PrintSettingsTicket ticket(*host);
     ticket._customTicketSetString("JobName", JobName);
+    ticket._customTicketSetString("QZSpecificJobName", "Input");
     ASSERT_EQ(save(*host).status, HostOutcome::Status::Done);
 
     ticket._customTicketSetString("JobName", std::nullopt);
     ticket._customTicketSetString("ProfilePath", std::string());
+    ticket._customTicketSetString("QZSpecificJobName", std::string());
     ASSERT_EQ(save(*host).status, HostOutcome::Status::Done);
 
     std::unique_ptr<CupsQueueHost> reopened = open();
     ASSERT_TRUE(reopened);
-    EXPECT_EQ(reopened->printSettings()->value(PrintSettingsTicket::customKey("JobName")), nullptr);
-    EXPECT_EQ(reopened->printSettings()->value(PrintSettingsTicket::customKey("ProfilePath")), nullptr);
+    const PrintSettings& settings = *reopened->printSettings();
+    EXPECT_EQ(settings.value(PrintSettingsTicket::customKey("JobName")), nullptr);
+    EXPECT_EQ(settings.text(PrintSettingsTicket::customKey("ProfilePath")), "");
+    EXPECT_EQ(settings.text(PrintSettingsTicket::customKey("QZSpecificJobName")), "");
 }
 
 // A file size limit makes libcups stop half way through the file, as a full disk would.

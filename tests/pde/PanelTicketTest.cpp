@@ -220,3 +220,17 @@ TEST(PanelSave, DetailedSettingsOkWritesOnlyWhatDiffersFromTheModelBeforeTheWind
     EXPECT_EQ(scope.setting("PagePrintOnCenter"), "True");
     EXPECT_EQ(textOf(scope.panel().printOptionOld(), "ColorMode"), "Color");
 }
+
+TEST(PanelSave, UserNameReachesTheJobPrecomposedOnTheFullSaveOnly) {
+    const std::string decomposed = "Mu\xCC\x88ller";
+    const std::string precomposed = "M\xC3\xBCller";
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.panel().printOption().set("UserName", decomposed);
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("UserName"), precomposed);
+
+    scope.panel().printOption().set("UserName", decomposed);
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError_Fast());
+    EXPECT_EQ(scope.storedCustom("UserName"), decomposed);
+}
