@@ -90,6 +90,9 @@ int main(int argc, char** argv) {
     }
     ::setenv("DISPLAY", server.display().c_str(), 1);
     ::setenv("QT_QPA_PLATFORM", "xcb", 1);
+    // The private display has no session bus; without this, D-Bus would try to start one
+    // through the X server for Qt's accessibility and desktop settings.
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setApplicationDisplayName(QStringLiteral("Ostrin Flow"));
