@@ -3,17 +3,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
 
 #include "PanelWindowSupport.h"
-#include "favorites/JobNameWinController.h"
 #include "favorites/PopUpMenuModel.h"
 #include "pde/PdeAutomaticPaperTraySelection.h"
 #include "pde/TarnPDEByCocoa.h"
-#include "qt/JobNameWindow.h"
-#include "qt/RadioGroupModelWidget.h"
-#include "qt/TextFieldModelEdit.h"
 #include "qt/TraySheetWindow.h"
 
 using namespace QtPanelTest;
@@ -119,20 +114,4 @@ TEST(PanelWidget, TrayButtonsOpenTheirSheetsOverThePanelAndTheSettingsReachTheMo
         EXPECT_EQ(modelText(panel, sheetCase.colourKey), "Blue");
         EXPECT_FALSE(shown(shownPanel.dialogs().traySheetWindow(sheetCase.byEscape)));
     }
-}
-
-TEST(PanelWidget, JobNameTypedInItsDialogShowsOnThePanel) {
-    ShownPanel shownPanel;
-    UserSteps user;
-    user.add([] { return activeWindow<JobNameWindow>() != nullptr; },
-             [] {
-                 JobNameWindow& window = *activeWindow<JobNameWindow>();
-                 QTest::mouseClick(window.jobNameRadio()->buttons().at(1), Qt::LeftButton);
-                 window.jobNameField()->setFocus();
-                 QtWidgetTest::typeText(window.jobNameField(), "Proof 7");
-                 QTest::mouseClick(window.okButton(), Qt::LeftButton);
-             });
-    shownPanel.click(shownPanel.panel().jobNameButton());
-    EXPECT_TRUE(user.finished());
-    EXPECT_EQ(shownPanel.widget().jobNameLabel()->text(), "Proof 7");
 }
