@@ -30,6 +30,8 @@ PanelWidget::PanelWidget(TarnPDEByCocoa& panel, QWidget* parent)
       _panel(panel),
       _view(new PanelViewWidget(panel.panelView(), settingColumns, this)),
       _favorites(new QComboBox(this)) {
+    // A print dialog titles the panel's tab with the widget's title.
+    setWindowTitle(QString::fromStdString(TarnPDEByCocoa::panelName()));
     _favorites->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     if (!_view->insertBeside(*_panel.favoriteTitleLabel(), _favorites)) _favorites->hide();
     auto* jobNameCaption = new QLabel(QString::fromStdString(BSLocalizedString("Job name:")), this);

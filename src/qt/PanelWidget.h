@@ -18,15 +18,16 @@ class PanelViewWidget;
 class TarnPDEByCocoa;
 class VORNUIWidget;
 
-/// The panel "Ostrin Flow" as a Qt widget: the panel's settings, the favorite pop-up, the
-/// job name and the buttons of the tray sheets, the detailed settings and the revert, as
-/// the panel's view holds them. It renders and forwards: every click and choice goes to
-/// the panel, which decides, and the widget then shows what the panel holds. Like the
-/// print dialog with its panels, it tells the panel when it is shown (willShow) and hidden
-/// (shouldHide).
+/// The panel "Ostrin Flow" as a Qt widget, titled so for a print dialog's tab: the panel's
+/// settings, the favorite pop-up, the job name and the buttons of the tray sheets, the
+/// detailed settings and the revert, as the panel's view holds them. It renders and
+/// forwards: every click and choice goes to the panel, which decides, and the widget then
+/// shows what the panel holds. Like a print dialog with its panels, it tells the panel
+/// when it is shown (willShow) and hidden (shouldHide).
 ///
-/// A host shows the whole panel with the panel widget and, for the windows it opens (tray
-/// sheets, detailed settings, job name, favorites), one QtDialogs over the panel:
+/// A host shows the whole panel with the panel widget and, for the windows the panel opens
+/// (tray sheets, detailed settings, job name, favorites), one QtDialogs over the panel,
+/// whose windows are sheets of the given window:
 ///
 ///     auto* widget = new PanelWidget(panel, parent);
 ///     QtDialogs windows(panel, widget->window());

@@ -25,6 +25,7 @@ TEST(PanelWidget, ShowsTheSettingsAndButtonsAndTellsThePanelWhenItIsShown) {
     PanelWidget& widget = shownPanel.widget();
     EXPECT_TRUE(panel.isIntializedUi());
     EXPECT_TRUE(panel.isMyPluginPDE());
+    EXPECT_EQ(widget.windowTitle(), "Ostrin Flow");
     for (const char* key : {"DuplexMode", "ColorMode", "StapleMode", "Punch_PunchHoles", "Fold", "OutputTray",
                             "QVInputSlot", "PagePrintOnCenter", "AutoTraySettingToBypass"})
         EXPECT_TRUE(shown(widget.controlWidget(key))) << key;
