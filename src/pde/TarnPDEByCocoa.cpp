@@ -186,11 +186,6 @@ std::optional<std::string> TarnPDEByCocoa::ppdxReadData(const std::string& name)
     return PpdData::ppdxReadData(_pdePluginCallbackObject.ppdFile(), name);
 }
 
-void TarnPDEByCocoa::favoritePopupChoseItem(std::int64_t index) {
-    _Favorite->selectItemAtIndex(index);
-    selectFavorite();
-}
-
 std::string TarnPDEByCocoa::_localized(const std::string& key) const {
     return _plugInBundle ? localizedStringInBundle(*_plugInBundle, key, "Localizable") : key;
 }

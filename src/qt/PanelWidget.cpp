@@ -40,7 +40,8 @@ PanelWidget::PanelWidget(TarnPDEByCocoa& panel, QWidget* parent)
     layout->addWidget(_view);
     connect(_view, &PanelViewWidget::actionRan, this, &PanelWidget::refresh);
     connect(_favorites, &QComboBox::activated, this, [this](int index) {
-        _panel.favoritePopupChoseItem(index);
+        _panel.favoritePopup().selectItemAtIndex(index);
+        _panel.selectFavorite();
         refresh();
     });
     refresh();
@@ -56,7 +57,7 @@ void PanelWidget::refresh() {
 // The pop-up is filled anew only when its items changed, so that an open menu is not
 // pulled away under the user by a refresh.
 void PanelWidget::showFavorites() {
-    const PopUpMenuModel& model = *_panel.favoritePopup();
+    const PopUpMenuModel& model = _panel.favoritePopup();
     const QSignalBlocker blocker(_favorites);
     if (model.items() != _shownFavorites) {
         _favorites->clear();

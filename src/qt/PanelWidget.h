@@ -25,12 +25,12 @@ class VORNUIWidget;
 /// shows what the panel holds. Like a print dialog with its panels, it tells the panel
 /// when it is shown (willShow) and hidden (shouldHide).
 ///
-/// A host shows the whole panel with the panel widget and, for the windows the panel opens
-/// (tray sheets, detailed settings, job name, favorites), one QtDialogs over the panel,
-/// whose windows are sheets of the given window:
+/// A host shows the whole panel through PanelViews: the panel widget, and one QtDialogs
+/// over the panel for the windows it opens (tray sheets, detailed settings, job name,
+/// favorites), sheets of the host's window:
 ///
-///     auto* widget = new PanelWidget(panel, parent);
-///     QtDialogs windows(panel, widget->window());
+///     layout->addWidget(PanelViews::createPanelWidget(panel, window));
+///     auto windows = PanelViews::installPanelDialogs(panel, window);
 class PanelWidget : public QWidget {
     Q_OBJECT
 public:

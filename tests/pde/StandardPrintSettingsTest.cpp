@@ -22,7 +22,8 @@ TEST_F(StandardSettings, ControlKeysNameTheCupsOptions) {
     EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("Duplex"), std::nullopt);
 }
 
-TEST_F(StandardSettings, CopiesAndCollateAreWrittenAsCupsOptions) {
+// Written as cupsd's words; read back, every word cupsd takes for false is "False".
+TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
     standard.setCopies("3");
     standard.setCollate(false);
     EXPECT_EQ(settings.text("copies"), "3");
@@ -32,16 +33,6 @@ TEST_F(StandardSettings, CopiesAndCollateAreWrittenAsCupsOptions) {
     standard.setCollate(true);
     EXPECT_EQ(settings.text("collate"), "true");
     EXPECT_EQ(standard.getCollate(), "True");
-}
-
-TEST_F(StandardSettings, AJobWithoutThemPrintsOneCollatedOneSidedCopy) {
-    EXPECT_EQ(standard.getCopies(), "1");
-    EXPECT_EQ(standard.getCollate(), "True");
-    EXPECT_EQ(standard.getDuplex(), "None");
-    EXPECT_TRUE(settings.values().empty());
-}
-
-TEST_F(StandardSettings, CollateReadsTheWordsCupsdTakesForFalse) {
     settings.setValue("copies", 4);
     EXPECT_EQ(standard.getCopies(), "4");
     for (const char* word : {"false", "No", "OFF"}) {
@@ -50,6 +41,13 @@ TEST_F(StandardSettings, CollateReadsTheWordsCupsdTakesForFalse) {
     }
     settings.setValue("collate", "yes");
     EXPECT_EQ(standard.getCollate(), "True");
+}
+
+TEST_F(StandardSettings, AJobWithoutThemPrintsOneCollatedOneSidedCopy) {
+    EXPECT_EQ(standard.getCopies(), "1");
+    EXPECT_EQ(standard.getCollate(), "True");
+    EXPECT_EQ(standard.getDuplex(), "None");
+    EXPECT_TRUE(settings.values().empty());
 }
 
 TEST_F(StandardSettings, DuplexIsReadFromSides) {

@@ -47,7 +47,7 @@ TEST(PanelWidget, ShowsTheSettingsAndButtonsAndTellsThePanelWhenItIsShown) {
 
 TEST(PanelWidget, FavoritePopupShowsThePanelsItemsAndForwardsAChoice) {
     ShownPanel shownPanel;
-    PopUpMenuModel& model = *shownPanel.panel().favoritePopup();
+    PopUpMenuModel& model = shownPanel.panel().favoritePopup();
     model.removeAllItems();
     model.addItem("Standard", "", "");
     model.addSeparator();
