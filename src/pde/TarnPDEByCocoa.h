@@ -245,6 +245,8 @@ public:
     const std::shared_ptr<PanelLabel>& jobNameLabel() const { return _jobName; }
     /// The favorite pop-up's items and selection.
     PopUpMenuModel& favoritePopup() { return *_Favorite; }
+    /// The favorite pop-up's title; the view layer shows the pop-up beside it, hidden with it.
+    const std::shared_ptr<PanelLabel>& favoriteTitleLabel() const { return _titleFavorite; }
     const std::shared_ptr<PanelButton>& saveFavoriteButton() const { return _saveFavoriteButton; }
     const std::shared_ptr<PanelButton>& deleteFavoriteButton() const { return _deleteFavoriteButton; }
     /// The title of the favorite last selected; nothing before a selection.

@@ -14,6 +14,10 @@ ModalDialogView::ModalDialogView(ModalWindow& window, QWidget* parent) : QDialog
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
 
+// A window that goes while it has the focus moves the focus on its way out, when it is a
+// dialog no more: it stops following the focus first.
+ModalDialogView::~ModalDialogView() { disconnect(qApp, nullptr, this, nullptr); }
+
 void ModalDialogView::refresh() {
     setWindowTitle(QString::fromStdString(_window.windowTitle()));
     for (TextFieldModelEdit* edit : _textFields) edit->refresh();

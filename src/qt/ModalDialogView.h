@@ -20,6 +20,7 @@ class ModalDialogView : public QDialog {
     Q_OBJECT
 public:
     ModalDialogView(ModalWindow& window, QWidget* parent);
+    ~ModalDialogView() override;
 
     ModalWindow& modalWindow() const { return _window; }
     /// Shows the controller's state: the window title and every control.

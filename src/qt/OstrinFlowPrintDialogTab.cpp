@@ -78,7 +78,7 @@ QString OstrinFlowPrintDialogTab::defaultBundlePath() {
 OstrinFlowPrintDialogTab::OstrinFlowPrintDialogTab(QPrintDialog& dialog, std::unique_ptr<QtPrintDialogHost> host,
                                                    std::shared_ptr<TarnPDEByCocoa> panel)
     : QObject(&dialog), _dialog(&dialog), _host(std::move(host)), _panel(std::move(panel)) {
-    _dialogs = PanelViews::installPanelDialogs(&dialog);
+    _dialogs = PanelViews::installPanelDialogs(*_panel, &dialog);
     _panel->restoreValuesAndReturnError();
     // The dialog's options area is low; the panel scrolls in it rather than being cut off.
     auto* page = new QScrollArea;

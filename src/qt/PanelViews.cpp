@@ -1,18 +1,20 @@
 #include "qt/PanelViews.h"
 
 #include "pde/TarnPDEByCocoa.h"
+#include "qt/PanelWidget.h"
 #include "qt/QtDialogs.h"
-#include "qt/ViewTreeWidget.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace PanelViews {
 
 QWidget* createPanelWidget(TarnPDEByCocoa& panel, QWidget* parent) {
     panel.willShow();
-    return new ViewTreeWidget(panel.panelView(), parent);
+    return new PanelWidget(panel, parent);
 }
 
-std::unique_ptr<QtDialogs> installPanelDialogs(QWidget* window) { return std::make_unique<QtDialogs>(window); }
+std::unique_ptr<QtDialogs> installPanelDialogs(TarnPDEByCocoa& panel, QWidget* window) {
+    return std::make_unique<QtDialogs>(panel, window);
+}
 
 }  // namespace PanelViews
 }  // namespace ComQuorvantVelmar_Plugin

@@ -56,7 +56,7 @@ PanelWindow::PanelWindow(TarnPDEByCocoa& panel, PdeHost& host, std::optional<std
     connect(_printButton, &QPushButton::clicked, this, &PanelWindow::print);
     connect(_saveDefaultsButton, &QPushButton::clicked, this, &PanelWindow::saveDefaults);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    _dialogs = PanelViews::installPanelDialogs(this);
+    _dialogs = PanelViews::installPanelDialogs(_panel, this);
 }
 
 PanelWindow::~PanelWindow() = default;

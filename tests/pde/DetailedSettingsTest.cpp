@@ -90,12 +90,19 @@ TEST(DetailedSettings, TreeColumnIsWidestForSpanishAndMatchesLanguagesInOrder) {
     EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("de-ES"), 460);
 }
 
-TEST(DetailedSettings, EveryPaneOfTheTreeBecomesATab) {
+TEST(DetailedSettings, EveryPaneOfTheTreeBecomesATabOncePerPaneManager) {
     PanelScope scope;
     window().awakeFromNib();
-    const auto& tabs = window().tabView()->tabs();
+    const auto tabView = window().tabView();
+    const auto& tabs = tabView->tabs();
     ASSERT_FALSE(tabs.empty());
     EXPECT_EQ(tabs.front().identifier, "Page");
+    window().awakeFromNib();
+    EXPECT_EQ(window().tabView(), tabView);
+    PanePlugInMgr::setSharedInstance(nullptr);
+    window().awakeFromNib();
+    ASSERT_EQ(window().tabView()->tabs().size(), tabs.size());
+    EXPECT_NE(window().tabView()->tabs().front().view, tabs.front().view);
     EXPECT_EQ(window().selectedViewStyleTag(), DetailedSettingsWinController::TabStyleTag);
     window().selectViewStyleItem(1);
     EXPECT_TRUE(window().tabView()->isTabless());
