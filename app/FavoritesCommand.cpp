@@ -6,6 +6,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "JsonIO.h"
+#include "TsvField.h"
 #include "PanelSession.h"
 #include "core/AtomicFile.h"
 #include "core/FileUtil.h"
@@ -54,31 +55,6 @@ FavoriteFile readableFavorite(const std::string& path, const std::string& what) 
     if (favorite.version() == -1)
         throw CommandError(ExitInput, what + " is not a favorite file this printer can use");
     return favorite;
-}
-
-// Tab-separated fields: a backslash, tab, line feed or carriage return inside a field is
-// written as \\, \t, \n or \r.
-std::string tsvField(const std::string& text) {
-    std::string field;
-    for (char character : text) {
-        switch (character) {
-            case '\\':
-                field += "\\\\";
-                break;
-            case '\t':
-                field += "\\t";
-                break;
-            case '\n':
-                field += "\\n";
-                break;
-            case '\r':
-                field += "\\r";
-                break;
-            default:
-                field += character;
-        }
-    }
-    return field;
 }
 
 void printLine(const std::string& line) { std::printf("%s\n", line.c_str()); }
