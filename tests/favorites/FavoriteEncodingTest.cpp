@@ -74,29 +74,32 @@ TEST(FavoriteEncoding, ReadsEachLanguageCodeInItsEncoding) {
     }
 }
 
-TEST(FavoriteEncoding, RomanSystemWritesCodePage850WithCodeZero) {
-    // The file carries code 0 and so reads back as Shift JIS: a German umlaut does not
-    // survive, which is how favorites of a Roman system have always behaved.
-    OstrinTest::useProductStrings("de-DE");
-    OstrinTest::TemporaryDirectory folder;
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "Müller", {{"A", "1"}}, readBack);
-    EXPECT_EQ(bytes, "2\n13\n0\nComment=M\x81ller\nA=1\t\t");
-    EXPECT_NE(readBack.comment(), "Müller");
-    EXPECT_EQ(readBack.options(), (PlistDictionary{{"A", "1"}}));
-}
-
-TEST(FavoriteEncoding, CharactersTheLocalEncodingLacksBecomeQuestionMarks) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    std::vector<std::string> lines;
-    Diagnostics::setObserver([&](std::string_view line) { lines.emplace_back(line); });
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "5 €", {{"JobName", "報告"}}, readBack);
-    Diagnostics::setObserver({});
-    EXPECT_EQ(bytes, "2\n13\n0\nComment=5 ?\nJobName=??\t\t");
-    ASSERT_FALSE(lines.empty());
-    EXPECT_NE(lines.back().find("cannot hold"), std::string::npos);
+// A Roman system writes code page 850 under code 0, so the file reads back as Shift JIS and
+// a German umlaut does not survive, as favorites of a Roman system always behaved; what the
+// local encoding lacks becomes "?" and is logged.
+TEST(FavoriteEncoding, RomanSystemWritesCodePage850AndQuestionMarksForWhatItLacks) {
+    const struct {
+        const char* language;
+        const char* comment;
+        PlistDictionary options;
+        std::string bytes;
+        bool logged;
+    } cases[] = {
+        {"de-DE", "Müller", {{"A", "1"}}, "2\n13\n0\nComment=M\x81ller\nA=1\t\t", false},
+        {"en", "5 €", {{"JobName", "報告"}}, "2\n13\n0\nComment=5 ?\nJobName=??\t\t", true},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::useProductStrings(probe.language);
+        OstrinTest::TemporaryDirectory folder;
+        std::vector<std::string> lines;
+        Diagnostics::setObserver([&](std::string_view line) { lines.emplace_back(line); });
+        FavoriteFile readBack;
+        const std::string bytes = writeAndReadBack(folder, probe.comment, probe.options, readBack);
+        Diagnostics::setObserver({});
+        EXPECT_EQ(bytes, probe.bytes) << probe.language;
+        EXPECT_NE(readBack.comment(), probe.comment);
+        EXPECT_EQ(!lines.empty() && lines.back().find("cannot hold") != std::string::npos, probe.logged);
+    }
 }
 
 TEST(FavoriteEncoding, OtherScriptLogsAndWritesShiftJis) {

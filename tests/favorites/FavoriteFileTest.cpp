@@ -118,14 +118,31 @@ TEST(FavoriteFile, TokensEndAtTheirDelimiterTheFileEndOrTheirLimit) {
     }
 }
 
-TEST(FavoriteFile, WriterKeepsEveryOptionWhenTextHoldsDelimiters) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("delimiters.pqz");
-    favoriteWith("two\nlines", PlistDictionary{{"JobName", "a\tb"}, {"NumCopies", "2"}}).writeToFile(path);
-    FavoriteFile favorite(path);
-    EXPECT_EQ(favorite.comment(), "two lines");
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"JobName", "a b"}, {"NumCopies", "2"}}));
+// Delimiters in the text become blanks so that no option is lost; a comment over the limit
+// is shortened by whole characters.
+TEST(FavoriteFile, WriterFoldsTextTheLayoutCannotHold) {
+    std::string japanese;
+    for (int i = 0; i < 200; ++i) japanese += "あ";
+    const struct {
+        const char* language;
+        std::string comment;
+        PlistDictionary options;
+        std::string readComment;
+        PlistDictionary readOptions;
+    } cases[] = {
+        {"en", "two\nlines", {{"JobName", "a\tb"}, {"NumCopies", "2"}}, "two lines",
+         {{"JobName", "a b"}, {"NumCopies", "2"}}},
+        {"ja", japanese, {{"A", "1"}}, japanese.substr(0, 127 * 3), {{"A", "1"}}},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::useProductStrings(probe.language);
+        OstrinTest::TemporaryDirectory folder;
+        const std::string path = folder.file("written.pqz");
+        favoriteWith(probe.comment, probe.options).writeToFile(path);
+        const FavoriteFile favorite(path);
+        EXPECT_EQ(favorite.comment(), probe.readComment) << probe.language;
+        EXPECT_EQ(favorite.options(), probe.readOptions) << probe.language;
+    }
 }
 
 // The save dialogs never test the answer, and a favorite they could not read must not
@@ -160,18 +177,4 @@ TEST(FavoriteFile, NamesAndPaths) {
     EXPECT_EQ(FavoriteNameAppendingClassic("Proofs"), "Proofs (Classic)");
     EXPECT_EQ(FavoriteNameWithPath("/f/Proofs.pqz"), "Proofs");
     EXPECT_FALSE(FavoriteNameWithPath(std::nullopt));
-}
-
-TEST(FavoriteFile, WriterShortensAnOverlongCommentByWholeCharacters) {
-    OstrinTest::useProductStrings("ja");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("long.pqz");
-    std::string comment;
-    for (int i = 0; i < 200; ++i) comment += "あ";
-    favoriteWith(comment, PlistDictionary{{"A", "1"}}).writeToFile(path);
-    FavoriteFile favorite(path);
-    std::string expected;
-    for (int i = 0; i < 127; ++i) expected += "あ";
-    EXPECT_EQ(favorite.comment(), expected);
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"A", "1"}}));
 }

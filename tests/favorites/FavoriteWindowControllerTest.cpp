@@ -277,25 +277,11 @@ TEST_F(FavoriteManager, DeleteAsksFirstAndKeepsTheFileUntilOk) {
     EXPECT_EQ(alerts->asked().size(), 2u);
 }
 
-TEST_F(FavoriteManager, WithoutADefaultsProviderThePanesGiveTheDefaults) {
-    PanePlugInMgr::setSharedInstance(nullptr);
-    PanePlugInMgr::sharedInstance()->loadPlugIns();
-    runner->queue([](ModalWindow& window) {
-        auto& dialog = dynamic_cast<FavoriteWindowController&>(window);
-        dialog.selectRow(1);
-        // The panes' defaults in PPD keyword form: crease positions in cep, not millimetres.
-        EXPECT_EQ(dialog.settingList().stringFor("CreaseMode"), "Off");
-        EXPECT_EQ(dialog.settingList().stringFor("CreasePosition1"), "154205");
-        EXPECT_EQ(dialog.settingList().stringFor("QZRGBColorCorrect"), "sRGB");
-        dialog.clickedOK();
-    });
-    EXPECT_TRUE(ShowFavoriteModalDialog(kCurrent));
-    PanePlugInMgr::setSharedInstance(nullptr);
-}
-
-// Through the panes of the product: a favorite that trims the face and keeps the zoom of
-// the defaults ("100" against "100.0") marks the face trim alone and opens its pane.
-TEST_F(FavoriteManager, TheSummaryTreeMarksAndOpensTheSettingsThatDifferFromTheDefaults) {
+// Through the panes of the product: without a defaults provider the panes give the
+// defaults, in PPD keyword form (crease positions in cep, not millimetres); a favorite that
+// trims the face and keeps the zoom of the defaults ("100" against "100.0") marks the face
+// trim alone in the summary tree and opens its pane.
+TEST_F(FavoriteManager, ThePanesGiveTheDefaultsAndTheTreeMarksWhatDiffersFromThem) {
     PanePlugInMgr::setSharedInstance(nullptr);
     PanePlugInMgr::sharedInstance()->loadPlugIns();
     writeFavorite(favorite("Trimmed"), "", {{"FN_FACETRIM", "1"}, {"IM_MAG", "100"}});
@@ -317,8 +303,11 @@ TEST_F(FavoriteManager, TheSummaryTreeMarksAndOpensTheSettingsThatDifferFromTheD
     runner->queue([&](ModalWindow&) {
         EXPECT_EQ(marksFor("Trimmed"), (std::vector<std::string>{"open Finishing", "marked Face Trim"}));
         EXPECT_EQ(marksFor("Default Settings"), std::vector<std::string>{});
-        controller.clickedCancel();
+        EXPECT_EQ(controller.settingList().stringFor("CreaseMode"), "Off");
+        EXPECT_EQ(controller.settingList().stringFor("CreasePosition1"), "154205");
+        EXPECT_EQ(controller.settingList().stringFor("QZRGBColorCorrect"), "sRGB");
+        controller.clickedOK();
     });
-    controller.showAsModalDialog("", kCurrent, nullptr);
+    EXPECT_EQ(controller.showAsModalDialog("", kCurrent, nullptr), 1);
     PanePlugInMgr::setSharedInstance(nullptr);
 }

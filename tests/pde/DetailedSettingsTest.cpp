@@ -14,6 +14,7 @@ DetailedSettingsWinController& window() { return DetailedSettingsWinController::
 
 }  // namespace
 
+// The panes' options join the caller's values, which win; with no panes loaded nothing changes.
 TEST(DetailedSettings, ReformatAddsThePanesOptionsAndKeepsTheCallersValues) {
     PanelScope scope;
     PlistDictionary printOption{{"ColorMode", "Grayscale"}, {"QVNote", "mine"}};
@@ -22,14 +23,11 @@ TEST(DetailedSettings, ReformatAddsThePanesOptionsAndKeepsTheCallersValues) {
     EXPECT_EQ(printOption.stringFor("QVNote"), "mine");
     EXPECT_EQ(printOption.stringFor("MailAddress"), "");
     EXPECT_EQ(printOption.size(), scope.manager().defaultSettings().size() + 2);
-}
 
-TEST(DetailedSettings, ReformatWithNothingGatheredLeavesTheDictionaryAlone) {
-    PanelScope scope;
     PanePlugInMgr::setSharedInstance(std::make_shared<PanePlugInMgr>());
-    PlistDictionary printOption{{"ColorMode", "Grayscale"}};
-    window().reformatPrintOption(printOption);
-    EXPECT_EQ(printOption, (PlistDictionary{{"ColorMode", "Grayscale"}}));
+    PlistDictionary alone{{"ColorMode", "Grayscale"}};
+    window().reformatPrintOption(alone);
+    EXPECT_EQ(alone, (PlistDictionary{{"ColorMode", "Grayscale"}}));
 }
 
 TEST(DetailedSettings, OkWithInconsistentSettingsKeepsTheWindowOpenWithTheGatheredValues) {

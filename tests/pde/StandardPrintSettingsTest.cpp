@@ -15,13 +15,6 @@ struct StandardSettings : ::testing::Test {
 
 }  // namespace
 
-TEST_F(StandardSettings, ControlKeysNameTheCupsOptions) {
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("NumCopies"), "copies");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("Collate"), "collate");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("DuplexMode"), "sides");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("Duplex"), std::nullopt);
-}
-
 // Written as cupsd's words; read back, every word cupsd takes for false is "False".
 TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
     standard.setCopies("3");
@@ -43,22 +36,19 @@ TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
     EXPECT_EQ(standard.getCollate(), "True");
 }
 
-TEST_F(StandardSettings, AJobWithoutThemPrintsOneCollatedOneSidedCopy) {
+// A job without them prints one collated one-sided copy; duplex is read from the sides, and
+// sides cupsd does not know print one-sided.
+TEST_F(StandardSettings, DuplexIsReadFromSidesAndAJobWithoutThemPrintsOneCollatedOneSidedCopy) {
     EXPECT_EQ(standard.getCopies(), "1");
     EXPECT_EQ(standard.getCollate(), "True");
     EXPECT_EQ(standard.getDuplex(), "None");
     EXPECT_TRUE(settings.values().empty());
-}
-
-TEST_F(StandardSettings, DuplexIsReadFromSides) {
-    settings.setValue("sides", "two-sided-long-edge");
-    EXPECT_EQ(standard.getDuplex(), "DuplexNoTumble");
-    settings.setValue("sides", "two-sided-short-edge");
-    EXPECT_EQ(standard.getDuplex(), "DuplexTumble");
-    settings.setValue("sides", "one-sided");
-    EXPECT_EQ(standard.getDuplex(), "None");
-    settings.setValue("sides", "sideways");
-    EXPECT_EQ(standard.getDuplex(), "None");
+    for (const auto& [sides, duplex] : {std::pair{"two-sided-long-edge", "DuplexNoTumble"},
+                                        {"two-sided-short-edge", "DuplexTumble"}, {"one-sided", "None"},
+                                        {"sideways", "None"}}) {
+        settings.setValue("sides", sides);
+        EXPECT_EQ(standard.getDuplex(), duplex) << sides;
+    }
 }
 
 TEST_F(StandardSettings, SetDuplexNeverChangesSides) {
