@@ -4,9 +4,8 @@
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
 #include "panes/PanePlugInMgr.h"
-#include "pde/PrintSettingsTicket.h"
-#include "pde/TicketValueEscaping.h"
-#include "ppd/PrintOptionConverter.h"
+#include "pde/TarnPDEByCocoa.h"
+#include "pde/TarnPDEPlugIn.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 
@@ -23,13 +22,6 @@ std::shared_ptr<Bundle> productBundle() {
     return bundle;
 }
 
-std::string textOf(const PlistValue& value) {
-    if (const std::string* text = value.string()) return *text;
-    if (const bool* flag = value.boolean()) return *flag ? "True" : "False";
-    if (const std::int64_t* number = value.integer()) return std::to_string(*number);
-    return {};
-}
-
 // A booklet on coated paper, stapled on the saddle, in grey, with special toner: the
 // finishing, media and imposition rules all have a say in it.
 const PlistDictionary& bookletJob() {
@@ -42,6 +34,14 @@ const PlistDictionary& bookletJob() {
                                      {"PaperTypeD", "Coated"},
                                      {"DuplexMode", "DuplexNoTumble"}};
     return job;
+}
+
+// The print dialog's way in: the bundle's principal object answers the panel.
+std::shared_ptr<TarnPDEByCocoa> openPanel(InMemoryPdeHost& host) {
+    TarnPDEPlugIn entry;
+    entry.initWithBundle(productBundle());
+    auto panels = entry.PDEPanelsForType(TarnPDEPlugIn::printDialogPanelType, host);
+    return panels && !panels->empty() ? panels->front() : nullptr;
 }
 
 }  // namespace
@@ -63,54 +63,31 @@ std::unique_ptr<InMemoryPdeHost> hostWithSavedTicket() {
     auto host = std::make_unique<InMemoryPdeHost>(InMemoryPdeHost::Flavour::WithPpdChangeHook,
                                                   PpdFileExt::initWithContentsOfFile(samplePpdPath()));
     DialogSession dialog(*host);
-    dialog.manager().restorePrintOptionValues(&bookletJob());
+    for (const auto& [key, value] : bookletJob()) {
+        dialog.manager().setStringValue(*value.string(), key);
+        dialog.panel().printOption().set(key, value);
+    }
     dialog.saveToTicket();
     return host;
 }
 
-DialogSession::DialogSession(InMemoryPdeHost& host) : _host(host) {
-    _manager = std::make_shared<PanePlugInMgr>(productBundle());
-    PanePlugInMgr::setSharedInstance(_manager);
-    _manager->setPpdFile(std::make_shared<PpdFileExt>(host.ppdFile()));
-    _manager->loadPlugIns();
-    _manager->defaultSettings();
-    while (_manager->loadPanelView()) {
+DialogSession::DialogSession(InMemoryPdeHost& host, Opening opening) : _host(host) {
+    productBundle();
+    if (opening == Opening::First) PanePlugInMgr::setSharedInstance(nullptr);
+    _panel = openPanel(host);
+    _panel->restoreValuesAndReturnError();
+    _panel->willShow();
+    while (manager().loadPanelView()) {
     }
 }
 
-DialogSession::~DialogSession() { PanePlugInMgr::setSharedInstance(nullptr); }
+DialogSession::~DialogSession() { _panel.reset(); }
 
-void DialogSession::restoreFromTicket() {
-    PlistDictionary printOption;
-    const std::string_view prefix = PrintSettingsTicket::customKeyPrefix;
-    PpdFileExt* ppd = _manager->ppdFile();
-    for (const auto& [key, value] : _host.printSettings()->values()) {
-        if (key.rfind(prefix, 0) == 0)
-            printOption.set(key.substr(prefix.size()), TicketValueEscaping::unescape(textOf(value)));
-        else if (ppd && ppd->isExists(key))
-            printOption.set(key, textOf(value));
-    }
-    PrintOptionConverter::convertToInternalPpdKeyword(printOption);
-    _manager->restorePrintOptionValues(&printOption);
-}
+PanePlugInMgr& DialogSession::manager() { return *PanePlugInMgr::sharedInstance(); }
 
 std::size_t DialogSession::saveToTicket() {
-    auto gathered = _manager->gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
-    if (!gathered) return 0;
-    if (auto conflict = _manager->resloveConflictAlertDuplex(gathered->stringFor("DuplexMode"),
-                                                               gathered->stringFor("PaperTypeD"), 0))
-        Alerts::runModal(conflict->alert);
-    PrintOptionConverter::convertToCanonicalPpdKeyword(*gathered, 1);
-    PrintSettingsTicket ticket(_host);
-    PpdFileExt* ppd = _manager->ppdFile();
-    std::size_t written = 0;
-    for (const auto& [key, value] : *gathered) {
-        const std::string text = textOf(value);
-        if (ppd && ppd->isExists(key, text) ? _host.willChangePPDOptionKeyValue(key, text)
-                                             : ticket._customTicketSetString(key, text) == PrintSettingsTicket::noErr)
-            ++written;
-    }
-    return written;
+    _panel->saveValuesAndReturnError();
+    return _host.printSettings()->values().size();
 }
 
 }  // namespace OstrinBench

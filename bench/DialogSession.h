@@ -8,7 +8,8 @@
 
 namespace ComQuorvantVelmar_Plugin {
 class PanePlugInMgr;
-}
+class TarnPDEByCocoa;
+}  // namespace ComQuorvantVelmar_Plugin
 
 namespace OstrinBench {
 
@@ -25,32 +26,33 @@ public:
     ~AnswerEveryQuestion();
 };
 
-/// A host over the sample PPD whose print settings hold what a save of a finished,
-/// stapled, duplex booklet job wrote: marked PPD choices and custom ticket entries.
+/// A host over the sample PPD whose print settings hold what the panel's save of a
+/// finished, stapled, duplex booklet job wrote: marked PPD choices and custom ticket
+/// entries.
 std::unique_ptr<ComQuorvantVelmar_Plugin::InMemoryPdeHost> hostWithSavedTicket();
 
-/// The headless engine as the print dialog opens it over host: the process's pane manager
-/// with the host's PPD, every pane loaded (each building and registering its controls from
-/// the UI description), the defaults taken and every panel laid out.
+/// The print dialog as it opens over host: the bundle's principal object answers the
+/// "Ostrin Flow" panel, which loads every pane (each building and registering its controls
+/// from the UI description) and takes the defaults; the panel then restores the job's
+/// ticket, builds its own controls and shows the model, and every pane's panel is laid out.
 class DialogSession {
 public:
-    explicit DialogSession(ComQuorvantVelmar_Plugin::InMemoryPdeHost& host);
+    /// The first opening in a process makes the pane manager; a later one finds it loaded.
+    enum class Opening { First, Later };
+
+    explicit DialogSession(ComQuorvantVelmar_Plugin::InMemoryPdeHost& host, Opening opening = Opening::First);
     ~DialogSession();
     DialogSession(const DialogSession&) = delete;
     DialogSession& operator=(const DialogSession&) = delete;
 
-    ComQuorvantVelmar_Plugin::PanePlugInMgr& manager() { return *_manager; }
-    /// Reads the marked PPD choices and custom entries of the host's print settings,
-    /// converts them to internal keys and shows them in every pane.
-    void restoreFromTicket();
-    /// Gathers every setting from the panes, puts the duplex and media type question,
-    /// converts to PPD keywords and writes each value as a marked choice or a custom
-    /// entry; the number of values written.
+    ComQuorvantVelmar_Plugin::PanePlugInMgr& manager();
+    ComQuorvantVelmar_Plugin::TarnPDEByCocoa& panel() { return *_panel; }
+    /// The panel's save into the host's print settings; the number of entries they hold.
     std::size_t saveToTicket();
 
 private:
     ComQuorvantVelmar_Plugin::InMemoryPdeHost& _host;
-    std::shared_ptr<ComQuorvantVelmar_Plugin::PanePlugInMgr> _manager;
+    std::shared_ptr<ComQuorvantVelmar_Plugin::TarnPDEByCocoa> _panel;
 };
 
 }  // namespace OstrinBench

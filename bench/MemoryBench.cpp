@@ -120,7 +120,6 @@ void ProcessWithTheOpenDialog(benchmark::State& state) {
             OstrinBench::AnswerEveryQuestion answers;
             auto host = OstrinBench::hostWithSavedTicket();
             OstrinBench::DialogSession dialog(*host);
-            dialog.restoreFromTicket();
             return measure();
         });
     reportChild(state, memory);

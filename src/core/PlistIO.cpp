@@ -1,13 +1,19 @@
 #include "core/PlistIO.h"
 
 #include <plist/plist.h>
+#include <pthread.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "core/AtomicFile.h"
+#include "core/BinaryPlistShape_p.h"
+#include "core/Diagnostics.h"
 #include "core/FileUtil.h"
 
 namespace ComQuorvantVelmar_Plugin::PlistIO {
@@ -122,6 +128,64 @@ plist_t toNode(const PlistValue& value) {
     return nullptr;
 }
 
+// Property lists of the product nest a few levels. One nested far deeper (a printer's data,
+// a damaged resource) is no property list the engine can use, and converting it, here or
+// in libplist's own writer, takes one level of the call stack per level of nesting.
+constexpr std::size_t LargestNesting = 256;
+
+// The levels of containers in the tree at root, walked with a stack of its own.
+std::size_t nestingOf(plist_t root) {
+    std::size_t deepest = 0;
+    std::vector<std::pair<plist_t, std::size_t>> pending{{root, 0}};
+    while (!pending.empty()) {
+        const auto [node, depth] = pending.back();
+        pending.pop_back();
+        const plist_type type = plist_get_node_type(node);
+        if (type != PLIST_ARRAY && type != PLIST_DICT) continue;
+        deepest = std::max(deepest, depth + 1);
+        if (type == PLIST_ARRAY) {
+            for (uint32_t i = 0, count = plist_array_get_size(node); i < count; ++i)
+                pending.emplace_back(plist_array_get_item(node, i), depth + 1);
+            continue;
+        }
+        plist_dict_iter iterator = nullptr;
+        plist_dict_new_iter(node, &iterator);
+        while (iterator) {
+            char* key = nullptr;
+            plist_t item = nullptr;
+            plist_dict_next_item(node, iterator, &key, &item);
+            if (!key) break;
+            free(key);
+            pending.emplace_back(item, depth + 1);
+        }
+        free(iterator);
+    }
+    return deepest;
+}
+
+// libplist frees a tree one call per level, and a few hundred thousand levels overflow the
+// stack of the dialog's thread. A tree nested that deeply is freed on a thread whose stack
+// holds all its levels, or left unfreed when no such thread can be had.
+constexpr std::size_t StackBytesPerLevel = 256;
+constexpr std::size_t StackBytesBesides = 1 << 20;
+
+void freeDeepTree(plist_t root, std::size_t levels) {
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_t thread;
+    const auto freeTree = [](void* tree) -> void* {
+        plist_free(tree);
+        return nullptr;
+    };
+    const bool started = pthread_attr_setstacksize(&attributes, levels * StackBytesPerLevel + StackBytesBesides) == 0 &&
+                         pthread_create(&thread, &attributes, freeTree, root) == 0;
+    pthread_attr_destroy(&attributes);
+    if (started)
+        pthread_join(thread, nullptr);
+    else
+        Diagnostics::log("###Error: a property list nested " + std::to_string(levels) + " levels deep is left unfreed.");
+}
+
 // libplist 2.2 aborts the process when a string or key holding a NUL byte is read back.
 // Valid XML never holds one, so such text is refused; a binary list is rewritten as XML
 // without the NUL bytes of its texts (base64 data holds none) and read from there.
@@ -131,8 +195,13 @@ PlistHandle parseSafely(std::string_view bytes) {
     if (!plist_is_binary(bytes.data(), length)) {
         if (bytes.find('\0') != std::string_view::npos) return nullptr;
         plist_from_xml(bytes.data(), length, &root);
-        return PlistHandle(root);
+        if (!root) return nullptr;
+        const std::size_t levels = nestingOf(root);
+        if (levels <= LargestNesting) return PlistHandle(root);
+        freeDeepTree(root, levels);
+        return nullptr;
     }
+    if (!BinaryPlistShape::isReadable(bytes, LargestNesting)) return nullptr;
     plist_from_bin(bytes.data(), length, &root);
     PlistHandle binary(root);
     if (!binary) return nullptr;

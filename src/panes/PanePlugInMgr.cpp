@@ -7,10 +7,10 @@
 #include "core/EncodingLibrary.h"
 #include "core/FileUtil.h"
 #include "core/LocalizedString.h"
-#include "core/PlistIO.h"
 #include "core/StringHelpers.h"
 #include "favorites/AppPreference.h"
 #include "ppd/PpdFileExt.h"
+#include "settings_ui/UIDescriptionFile_p.h"
 #include "settings_ui/VORNMgr.h"
 
 namespace ComQuorvantVelmar_Plugin {
@@ -113,12 +113,11 @@ const PlistDictionary* PanePlugInMgr::panesTreeDictionary() {
     return nullptr;
 }
 
+// The controls that hold child controls read the same file for them; both take the one
+// copy the settings engine keeps of it.
 const PlistDictionary* PanePlugInMgr::uiDescriptions() {
-    if (!_uiDescriptions && !_uiFilePath.empty()) {
-        auto file = PlistIO::readFile(_uiFilePath);
-        if (file && file->dictionary()) _uiDescriptions = std::move(*file->dictionary());
-    }
-    return _uiDescriptions ? &*_uiDescriptions : nullptr;
+    if (!_uiDescriptions && !_uiFilePath.empty()) _uiDescriptions = UIDescriptionFile::read(_uiFilePath);
+    return _uiDescriptions.get();
 }
 
 std::pair<std::string, std::optional<std::string>> PanePlugInMgr::_separateBundleName(const std::string& name) {

@@ -366,7 +366,7 @@ private:
     bool _isInitializedNetworkData = false;
 
     std::shared_ptr<Bundle> _bundle;
-    std::optional<PlistDictionary> _uiDescriptions;
+    std::shared_ptr<const PlistDictionary> _uiDescriptions;
     std::size_t _loadedPanelCount = 0;
     InitializingPane _initializingPane;
 };

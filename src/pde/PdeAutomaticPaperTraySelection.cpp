@@ -57,17 +57,22 @@ bool PdeAutomaticPaperTraySelection::initializePanel(std::shared_ptr<Bundle> bun
     _plugInBundle = std::move(bundle);
     _uiFilePath = callback.getUIFilePath();
     _bypassFlag = bypassFlag;
-    initCtrl();
+    // The pane manager has read the UI description once for every pane and the panel; the
+    // sheet builds from that reading rather than reading and copying the whole file again.
+    if (const PlistDictionary* shared = _uiFilePath.empty() ? nullptr : callback.uiDescriptions())
+        initCtrl(*shared);
+    else
+        initCtrl(_readDescriptions());
     return true;
 }
 
-void PdeAutomaticPaperTraySelection::initCtrl() {
+void PdeAutomaticPaperTraySelection::initCtrl(const PlistDictionary& descriptions) {
     _View->removeAllSubviews();
     _vornuiList.clear();
     if (_bypassFlag)
-        _initCtrlBypass();
+        _initCtrlBypass(descriptions);
     else
-        _initCtrlAutomatic();
+        _initCtrlAutomatic(descriptions);
     _View->addSubview(_separator);
     _View->addSubview(_close);
     PaneLayout::layOut(*_View);
@@ -82,7 +87,7 @@ PlistDictionary PdeAutomaticPaperTraySelection::_readDescriptions() const {
     std::string path = _uiFilePath;
     if (path.empty() && _plugInBundle) path = _plugInBundle->pathForResource("UI", "plist");
     auto file = path.empty() ? std::nullopt : PlistIO::readFile(path);
-    return file && file->dictionary() ? *file->dictionary() : PlistDictionary();
+    return file && file->dictionary() ? std::move(*file->dictionary()) : PlistDictionary();
 }
 
 bool PdeAutomaticPaperTraySelection::_describe(const PlistDictionary& descriptions, const std::string& key,
@@ -96,8 +101,7 @@ bool PdeAutomaticPaperTraySelection::_describe(const PlistDictionary& descriptio
     return true;
 }
 
-void PdeAutomaticPaperTraySelection::_initCtrlAutomatic() {
-    const PlistDictionary descriptions = _readDescriptions();
+void PdeAutomaticPaperTraySelection::_initCtrlAutomatic(const PlistDictionary& descriptions) {
     if (!_describe(descriptions, "PaperType_MediaTypeTabbed", _vorn_PaperType_MediaTypeTabbed, true))
         _describe(descriptions, "PaperTypeD", _vorn_PaperTypeD, true);
     _describe(descriptions, "PaperTypeCustomName", _vorn_PaperTypeCustomName, true);
@@ -116,8 +120,7 @@ void PdeAutomaticPaperTraySelection::_initCtrlAutomatic() {
 // The list answers the sheet's automatic weight control for the bypass weight key, not the
 // bypass weight control the sheet shows; the panel reads and writes the bypass weight by
 // key, and stored settings rely on what that answers, so the pairing stays.
-void PdeAutomaticPaperTraySelection::_initCtrlBypass() {
-    const PlistDictionary descriptions = _readDescriptions();
+void PdeAutomaticPaperTraySelection::_initCtrlBypass(const PlistDictionary& descriptions) {
     _describe(descriptions, bypassPaperTypeKey,
               _vorn_PaperTypeBypass_MediaTypeTabbedBypass_MediaTypeCoatingMaterialBypass_MediaTypePreprintedBypass_MediaTypeDrilledBypass_PaperTypeCustomNumberBypass,
               true);

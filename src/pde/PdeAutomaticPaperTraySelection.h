@@ -58,9 +58,9 @@ public:
     const std::shared_ptr<PanelButton>& closeButton() const { return _close; }
 
 private:
-    void initCtrl();
-    void _initCtrlAutomatic();
-    void _initCtrlBypass();
+    void initCtrl(const PlistDictionary& descriptions);
+    void _initCtrlAutomatic(const PlistDictionary& descriptions);
+    void _initCtrlBypass(const PlistDictionary& descriptions);
     void _resizeWindow();
     bool _describe(const PlistDictionary& descriptions, const std::string& key,
                    const std::shared_ptr<VORNUI>& control, bool listed);

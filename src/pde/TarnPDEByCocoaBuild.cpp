@@ -75,8 +75,10 @@ void TarnPDEByCocoa::_buildUi() {
         _setTitles();
         AppPreference::sharedInstance().buildFavoritePopup(*_Favorite);
         _deleteFavoriteButton->setEnabled(_selectedFavoriteRepresentedObject().has_value());
+        // The pane manager's copy, read once for every pane; controls copy what they use.
         const PlistDictionary* found = _panePlugInMgr->uiDescriptions();
-        const PlistDictionary descriptions = found ? *found : PlistDictionary();
+        const PlistDictionary none;
+        const PlistDictionary& descriptions = found ? *found : none;
         _standard.setHiddenFlags(_panePlugInMgr->isHiddenNumCopies(), _panePlugInMgr->isHiddenDuplex(),
                                  _panePlugInMgr->isHiddenCollate());
         const bool withBypass = descriptions.contains("AutoTraySettingToBypass");

@@ -160,6 +160,14 @@ PlistValue PpdFile::findMarkedChoice(const std::string& option) const {
     return marked ? choiceValue(*found, marked->choice, _stringEncoding) : PlistValue();
 }
 
+bool PpdFile::isMarked(const std::string& option, const std::string& optionKeyword) const {
+    ppd_option_t* found = findOption(_ppdFile, option);
+    if (!found) return false;
+    ppd_choice_t* marked = ppdFindMarkedChoice(_ppdFile, found->keyword);
+    std::optional<PpdText::Keyword> choice = PpdText::toKeyword(optionKeyword);
+    return marked && choice && std::strcmp(marked->choice, choice->c_str()) == 0;
+}
+
 int PpdFile::markOption(const std::string& option, const std::string& optionKeyword) {
     std::optional<PpdText::Keyword> keyword = PpdText::toKeyword(option);
     std::optional<PpdText::Keyword> choice = PpdText::toKeyword(optionKeyword);

@@ -69,6 +69,8 @@ public:
     PlistDictionary defaultValueDictionary() const;
     /// The marked choice (boolean for a boolean option, else string); null when none.
     PlistValue findMarkedChoice(const std::string& option) const;
+    /// Whether optionKeyword is the marked choice of option; false with a missing argument.
+    bool isMarked(const std::string& option, const std::string& optionKeyword) const;
     /// Marks the choice; the number of conflicts libcups then counts; 0 with a missing
     /// argument or a keyword that cannot be a PPD keyword.
     int markOption(const std::string& option, const std::string& optionKeyword);

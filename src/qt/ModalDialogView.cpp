@@ -11,12 +11,13 @@ namespace ComQuorvantVelmar_Plugin {
 ModalDialogView::ModalDialogView(ModalWindow& window, QWidget* parent) : QDialog(parent), _window(window) {
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
     setSizeGripEnabled(false);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
+    _focusConnection =
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
 
-// A window that goes while it has the focus moves the focus on its way out, when it is a
-// dialog no more: it stops following the focus first.
-ModalDialogView::~ModalDialogView() { disconnect(qApp, nullptr, this, nullptr); }
+// Destroying the window's children moves the focus once more, after this part of the
+// window is gone; Qt would only drop the connection later, with the QObject.
+ModalDialogView::~ModalDialogView() { disconnect(_focusConnection); }
 
 void ModalDialogView::refresh() {
     setWindowTitle(QString::fromStdString(_window.windowTitle()));

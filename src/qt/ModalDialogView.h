@@ -43,6 +43,7 @@ private:
 
     ModalWindow& _window;
     std::vector<TextFieldModelEdit*> _textFields;
+    QMetaObject::Connection _focusConnection;
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

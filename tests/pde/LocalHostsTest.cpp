@@ -101,3 +101,17 @@ TEST(PrintSettings, HoldStringsAndNumbersAndGiveThemAsCupsOptionsInOrder) {
     EXPECT_FALSE(settings.removeValue("copies"));
     EXPECT_EQ(settings.text("copies"), std::nullopt);
 }
+
+TEST(PpdFileHost, AChoiceMarkedAlreadyIsStillCarriedAndLinkedOptionsStayInStep) {
+    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
+    ASSERT_TRUE(host);
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "SystemSetting"));
+    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "SystemSetting");
+    // libcups unmarks the page size when the page region is marked, and back.
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageRegion", "A4"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageSize").isNull());
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_EQ(host->ppd().findMarkedChoice("PageSize"), PlistValue("A3"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageRegion").isNull());
+}
