@@ -60,21 +60,25 @@ const char* const kSettingsOptionsHelp =
     "                   NumCopies takes a whole number, Collate True or False. A key that no\n"
     "                   setting has, or a value that is not a choice of its setting, is an\n"
     "                   input error; a refused change ends the command with status 1.\n"
+    "  --favorite NAME  start from the saved favorite NAME (see favorites list) instead of\n"
+    "                   the defaults alone: its settings are applied as picking it in the\n"
+    "                   panel's favorite list does, before the -o changes; an unknown or\n"
+    "                   unreadable favorite is an input error\n"
     "  --job-name TEXT  the job name (1 to 255 characters) instead of the automatic one\n";
 
 const char* const kSettingsFlowHelp =
-    "The settings start from the defaults of the panes and the panel; after the -o changes\n"
-    "the whole set passes the consistency check (a failed check prints its alert on stderr,\n"
-    "status 1) and is saved as the panel saves it: each value that is a choice of the PPD\n"
-    "is marked in the PPD, any other value is a custom entry\n"
+    "The settings start from the defaults of the panes and the panel, then the favorite;\n"
+    "after the -o changes the whole set passes the consistency check (a failed check\n"
+    "prints its alert on stderr, status 1) and is saved as the panel saves it: each value\n"
+    "that is a choice of the PPD is marked in the PPD, any other value is a custom entry\n"
     "(com.quorvant.velmar.print.PrintSettingsTicket.KEY, with \"%\", \"'\" and \",\" written\n"
     "%x25, %x27 and %x2C) while the PPD keeps that option's default. A two-sided setting\n"
     "that the media type forbids is put as a question; keeping the conflict ends with\n"
     "status 1.\n";
 
 const std::string kOptionsHelp = std::string(
-    "Usage: ostrin-flow [--queue NAME | --ppd FILE] options [-o KEY=VALUE]... [--job-name TEXT]\n"
-    "                   [--format text|json|lp]\n\n"
+    "Usage: ostrin-flow [--queue NAME | --ppd FILE] options [-o KEY=VALUE]... [--favorite NAME]\n"
+    "                   [--job-name TEXT] [--format text|json|lp]\n\n"
     "Prints the print job's settings: the marked PPD choices, the custom entries (by\n"
     "option key, unescaped) and the standard settings (copies, collate, duplex).\n\n")
     + kSettingsOptionsHelp +
@@ -89,7 +93,8 @@ const std::string kOptionsHelp = std::string(
     "choice, a missing or malformed PPD or an unknown queue, 4 when cupsd cannot be reached.\n";
 
 const std::string kPrintHelp = std::string(
-    "Usage: ostrin-flow --queue NAME print FILE [-o KEY=VALUE]... [--job-name TEXT]\n\n"
+    "Usage: ostrin-flow --queue NAME print FILE [-o KEY=VALUE]... [--favorite NAME]\n"
+    "                   [--job-name TEXT]\n\n"
     "Submits FILE to the queue with the settings (see options) and prints the job id. Like\n"
     "options, the settings start from the defaults, not from your saved options; options\n"
     "the panel has no setting for (sides, media, ...) still come from your saved options.\n"
@@ -99,7 +104,8 @@ const std::string kPrintHelp = std::string(
     "unknown key, choice or queue, 4 when cupsd cannot be reached or refuses the job.\n";
 
 const std::string kSaveDefaultsHelp = std::string(
-    "Usage: ostrin-flow --queue NAME save-defaults [-o KEY=VALUE]... [--job-name TEXT]\n\n"
+    "Usage: ostrin-flow --queue NAME save-defaults [-o KEY=VALUE]... [--favorite NAME]\n"
+    "                   [--job-name TEXT]\n\n"
     "Writes the settings (see options) as your saved options of the queue: the lpoptions\n"
     "file under $HOME/.cups, which lp and later jobs start from. The previous saved\n"
     "options of the queue are replaced; when the file cannot be written it is left as it\n"
@@ -119,6 +125,65 @@ const char* const kRestoreHelp =
     "  --format json    the only format (default)\n\n"
     "Exit status 3 for a missing or malformed PPD or an unknown queue, 4 when cupsd cannot\n"
     "be reached.\n";
+
+const std::string kFavoritesHelp = std::string(
+    "Usage: ostrin-flow favorites list\n"
+    "       ostrin-flow favorites show NAME\n"
+    "       ostrin-flow [--queue NAME | --ppd FILE] favorites save NAME [--comment TEXT]\n"
+    "                   [-o KEY=VALUE]... [--favorite NAME]\n"
+    "       ostrin-flow favorites delete NAME\n"
+    "       ostrin-flow favorites import FILE\n"
+    "       ostrin-flow favorites export NAME FILE\n\n"
+    "Favorites are named sets of print settings, one NAME.pqz file each in\n"
+    "$XDG_CONFIG_HOME/Quorvant/<product>/<sub-folder>/favorite (~/.config by default).\n\n"
+    "  list              every favorite: name, comment and path, in the order the\n"
+    "                    favorites window shows them. --format text (default), json\n"
+    "                    ([{\"name\", \"comment\", \"path\"}]) or tsv (name, comment, path;\n"
+    "                    a backslash, tab or line break inside a field is written as\n"
+    "                    \\\\, \\t, \\n or \\r)\n"
+    "  show NAME         the favorite's comment and print options (internal keys).\n"
+    "                    --format text (default: the comment, then KEY=VALUE lines),\n"
+    "                    json (the options as one object) or tsv (KEY, VALUE)\n"
+    "  save NAME         saves the settings, worked out as options does (see below), as\n"
+    "                    the favorite NAME, as the panel's Save... button does; a\n"
+    "                    favorite of that name is replaced. A favorite keeps the print\n"
+    "                    settings the press's job format knows (not the job name). NAME\n"
+    "                    has at most 27 bytes, none of the characters the favorites\n"
+    "                    window refuses, and is not the name of the default settings.\n"
+    "                    Prints nothing.\n"
+    "  delete NAME       moves the favorite's file to the desktop trash\n"
+    "                    ($XDG_DATA_HOME/Trash), from where it can be restored\n"
+    "  import FILE       adds a favorite file, unchanged, under its own name; refused\n"
+    "                    when it is not a favorite of this printer, its name is not a\n"
+    "                    valid favorite name or a favorite of that name exists\n"
+    "  export NAME FILE  copies the favorite's file, unchanged, to FILE (into FILE as\n"
+    "                    NAME.pqz when FILE is a folder)\n\n"
+    "Options of save:\n"
+    "  --comment TEXT   the favorite's comment (at most 255 bytes)\n")
+    + kSettingsOptionsHelp +
+    "\nThe settings start from the defaults of the panes and the panel, then the favorite;\n"
+    "after the -o changes the whole set passes the consistency check (a failed check\n"
+    "prints its alert on stderr, status 1) and is saved as the favorite.\n\n"
+    "An unknown favorite, a refused name or comment, or a refused file exits with 3 and one\n"
+    "line on stderr; refused settings exit with 1.\n";
+
+const char* const kGuiHelp =
+    "Usage: ostrin-flow [--queue NAME | --ppd FILE] [--lang LANG] gui\n\n"
+    "Opens the panel in a window, as the print dialog shows it, for the queue (its PPD and\n"
+    "your saved options), the PPD file, or the sample PPD of the extension bundle.\n\n"
+    "  Print...          asks for a file and prints it on the queue with the settings, as\n"
+    "                    print does; prints the job id and closes the window\n"
+    "  Save as defaults  writes the settings as your saved options of the queue, as\n"
+    "                    save-defaults does; the window stays open\n"
+    "  Cancel            closes the window; nothing is printed or saved\n\n"
+    "Both first run the consistency check and the panel's save; their questions and\n"
+    "refusals appear in the window, which stays open. Without --queue (with --ppd or the\n"
+    "sample PPD) there is nothing to print to or save for: Print... and Save as defaults\n"
+    "are unavailable and the window says so.\n\n"
+    "Needs a display: DISPLAY (X11) or WAYLAND_DISPLAY; QT_QPA_PLATFORM chooses Qt's\n"
+    "platform as for any Qt program.\n\n"
+    "Exit status 0 once the window is closed, 2 without a display that can be opened, 3 for\n"
+    "a missing or malformed PPD or an unknown queue, 4 when cupsd cannot be reached.\n";
 
 }  // namespace
 
@@ -190,30 +255,7 @@ const std::vector<Command>& commandTable() {
          "Exit status 3 for an unreadable file, malformed JSON or input that is not a JSON\n"
          "object, or a missing extension bundle.\n",
          checkCommand},
-        {"favorites", "list, show, delete, import and export saved favorites",
-         "Usage: ostrin-flow favorites list\n"
-         "       ostrin-flow favorites show NAME\n"
-         "       ostrin-flow favorites delete NAME\n"
-         "       ostrin-flow favorites import FILE\n"
-         "       ostrin-flow favorites export NAME FILE\n\n"
-         "Favorites are named sets of print settings, one NAME.pqz file each in\n"
-         "$XDG_CONFIG_HOME/Quorvant/<product>/<sub-folder>/favorite (~/.config by default).\n\n"
-         "  list              every favorite: name, comment and path, in the order the\n"
-         "                    favorites window shows them. --format text (default), json\n"
-         "                    ([{\"name\", \"comment\", \"path\"}]) or tsv (name, comment, path;\n"
-         "                    a backslash, tab or line break inside a field is written as\n"
-         "                    \\\\, \\t, \\n or \\r)\n"
-         "  show NAME         the favorite's comment and print options (internal keys).\n"
-         "                    --format text (default: the comment, then KEY=VALUE lines),\n"
-         "                    json (the options as one object) or tsv (KEY, VALUE)\n"
-         "  delete NAME       moves the favorite's file to the desktop trash\n"
-         "                    ($XDG_DATA_HOME/Trash), from where it can be restored\n"
-         "  import FILE       adds a favorite file, unchanged, under its own name; refused\n"
-         "                    when it is not a favorite of this printer, its name is not a\n"
-         "                    valid favorite name or a favorite of that name exists\n"
-         "  export NAME FILE  copies the favorite's file, unchanged, to FILE (into FILE as\n"
-         "                    NAME.pqz when FILE is a folder)\n\n"
-         "An unknown favorite or a refused file exits with 3 and one line on stderr.\n",
+        {"favorites", "list, show, save, delete, import and export saved favorites", kFavoritesHelp,
          favoritesCommand},
         {"options", "the print job's settings as the panel saves them", kOptionsHelp, optionsCommand},
         {"print", "prints a file on the queue with the settings", kPrintHelp, printCommand},
@@ -222,6 +264,7 @@ const std::vector<Command>& commandTable() {
         {"restore", "the queue's saved options as the internal print option dictionary", kRestoreHelp,
          restoreCommand},
         {"server", "one list of the print server as rows", kServerHelp, serverCommand},
+        {"gui", "opens the panel window for the queue or PPD", kGuiHelp, guiCommand},
     };
     return table;
 }

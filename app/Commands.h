@@ -30,7 +30,10 @@ int restoreCommand(const GlobalOptions& options, ArgumentList& arguments);
 /// Prints one list of the print server as rows.
 int serverCommand(const GlobalOptions& options, ArgumentList& arguments);
 
-/// favorites list|show NAME|delete NAME|import FILE|export NAME FILE
+/// Opens the panel in a window, with Print..., Save as defaults and Cancel.
+int guiCommand(const GlobalOptions& options, ArgumentList& arguments);
+
+/// favorites list|show NAME|save NAME|delete NAME|import FILE|export NAME FILE
 int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments);
 
 }  // namespace OstrinFlowCommand

@@ -1,10 +1,13 @@
 #include <algorithm>
 #include <cstdio>
+#include <set>
 #include <vector>
 
 #include "CommandError.h"
 #include "Commands.h"
 #include "JsonIO.h"
+#include "TsvField.h"
+#include "PanelSession.h"
 #include "core/AtomicFile.h"
 #include "core/FileUtil.h"
 #include "favorites/AppPreference.h"
@@ -12,6 +15,8 @@
 #include "favorites/FavoriteFunctions.h"
 #include "favorites/FavoriteItem.h"
 #include "favorites/Trash.h"
+#include "pde/TarnPDEByCocoa.h"
+#include "ppd/PrintOptionConverter.h"
 
 namespace OstrinFlowCommand {
 namespace {
@@ -52,31 +57,6 @@ FavoriteFile readableFavorite(const std::string& path, const std::string& what) 
     return favorite;
 }
 
-// Tab-separated fields: a backslash, tab, line feed or carriage return inside a field is
-// written as \\, \t, \n or \r.
-std::string tsvField(const std::string& text) {
-    std::string field;
-    for (char character : text) {
-        switch (character) {
-            case '\\':
-                field += "\\\\";
-                break;
-            case '\t':
-                field += "\\t";
-                break;
-            case '\n':
-                field += "\\n";
-                break;
-            case '\r':
-                field += "\\r";
-                break;
-            default:
-                field += character;
-        }
-    }
-    return field;
-}
-
 void printLine(const std::string& line) { std::printf("%s\n", line.c_str()); }
 
 int list(const GlobalOptions& options) {
@@ -101,10 +81,26 @@ int list(const GlobalOptions& options) {
     return ExitSuccess;
 }
 
+// The panel saves a favorite's settings as the press's job tags; they are shown under the
+// panes' own keys, as the panel applies them. Other keys are shown as the file holds them.
+PlistDictionary internalForm(const PlistDictionary& saved) {
+    const PrintOptionConverter& converter = PrintOptionConverter::sharedInstance();
+    std::set<std::string> tags;
+    if (auto table = converter.convertTable())
+        for (const auto& [keyword, entry] : *table)
+            if (const PlistDictionary* fields = entry.dictionary())
+                if (auto tag = fields->stringFor("tagKey")) tags.insert(*tag);
+    PlistDictionary shown = converter.toPpdKeywordFormat(saved);
+    PrintOptionConverter::convertToInternalPpdKeyword(shown);
+    for (const auto& [key, value] : saved)
+        if (!tags.count(key) && !shown.contains(key)) shown.set(key, value);
+    return shown;
+}
+
 int show(const GlobalOptions& options, const std::string& name) {
     const std::string format = options.formatAmong({"text", "json", "tsv"});
     const FavoriteFile favorite = readableFavorite(favoritePath(name), "favorite \"" + name + "\"");
-    const PlistDictionary& favoriteOptions = *favorite.options();
+    const PlistDictionary favoriteOptions = internalForm(*favorite.options());
     if (format == "json") {
         printJson(toJson(PlistValue(favoriteOptions)));
         return ExitSuccess;
@@ -156,6 +152,24 @@ int exportFavorite(const std::string& name, std::string file) {
     return ExitSuccess;
 }
 
+// The settings as options works them out, saved as the favorite pop-up's save does; a
+// favorite of that name is replaced, as in the save dialog.
+int save(const GlobalOptions& options, ArgumentList& arguments) {
+    const SettingsRequest request = SettingsRequest::take(arguments);
+    const std::string comment = arguments.take("comment").value_or("");
+    const std::string name = arguments.positionals(1, 1).front();
+    favoritesFolder(options);
+    if (auto message = FavoriteItem::checkName(name))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": " + *message);
+    if (auto message = FavoriteItem::checkComment(comment))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": --comment: " + *message);
+    PanelSession session(options);
+    if (const int refused = session.apply(request)) return refused;
+    if (!session.panel().saveFavorite(name, comment))
+        throw CommandError(ExitInput, "cannot save favorite \"" + name + "\": the settings have nothing a favorite keeps");
+    return ExitSuccess;
+}
+
 }  // namespace
 
 int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments) {
@@ -171,13 +185,14 @@ int favoritesCommand(const GlobalOptions& options, ArgumentList& arguments) {
         if (action == "show") return show(options, argument);
         return action == "delete" ? remove(argument) : import(argument, folder);
     }
+    if (action == "save") return save(options, arguments);
     if (action == "export") {
         const auto names = arguments.positionals(2, 2);
         favoritesFolder(options);
         return exportFavorite(names[0], names[1]);
     }
-    if (action.empty()) throw UsageError("favorites needs one of list, show, delete, import, export");
-    throw UsageError("favorites has no action \"" + action + "\" (list, show, delete, import, export)");
+    if (action.empty()) throw UsageError("favorites needs one of list, show, save, delete, import, export");
+    throw UsageError("favorites has no action \"" + action + "\" (list, show, save, delete, import, export)");
 }
 
 }  // namespace OstrinFlowCommand

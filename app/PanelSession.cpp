@@ -10,6 +10,8 @@
 #include "core/FormatterAttachment.h"
 #include "core/LocalizedString.h"
 #include "core/TextCharacters.h"
+#include "favorites/FavoriteFile.h"
+#include "favorites/PopUpMenuModel.h"
 #include "panes/PanePlugInMgr.h"
 #include "pde/CupsQueueHost.h"
 #include "pde/PpdFileHost.h"
@@ -94,6 +96,7 @@ SettingsRequest SettingsRequest::take(ArgumentList& arguments) {
             throw UsageError("-o " + option + ": expected KEY=VALUE");
         request.changes.emplace_back(option.substr(0, equals), option.substr(equals + 1));
     }
+    request.favorite = arguments.take("favorite");
     request.jobName = arguments.take("job-name");
     return request;
 }
@@ -120,7 +123,13 @@ PanelSession::PanelSession(const GlobalOptions& options) {
 PanelSession::~PanelSession() { _panel.reset(); }
 
 int PanelSession::applyAndSave(const SettingsRequest& request) {
+    if (const int refused = apply(request)) return refused;
+    return _panel->saveValuesAndReturnError() ? ExitSuccess : ExitRefused;
+}
+
+int PanelSession::apply(const SettingsRequest& request) {
     _panel->willShow();
+    if (request.favorite) applyFavorite(*request.favorite);
     for (const auto& [key, value] : request.changes) applyChange(key, value);
     if (request.jobName) applyJobName(*request.jobName);
     // As the detailed settings window hands them over: every setting's value, then the
@@ -128,8 +137,26 @@ int PanelSession::applyAndSave(const SettingsRequest& request) {
     if (auto gathered = _manager->gatherPrintOptionValues(nullptr, std::nullopt, false, false, false))
         _panel->printOption() = std::move(*gathered);
     for (const auto& [key, value] : _plainValues) _panel->printOption().set(key, value);
-    if (!_manager->isPrintOptionConsistencyCheck(_panel->printOption())) return ExitRefused;
-    return _panel->saveValuesAndReturnError() ? ExitSuccess : ExitRefused;
+    return _manager->isPrintOptionConsistencyCheck(_panel->printOption()) ? ExitSuccess : ExitRefused;
+}
+
+// The favorite is picked in the panel's favorite pop-up, which applies it to the model and
+// the settings. Its values without a setting of their own join the model after the gather.
+void PanelSession::applyFavorite(const std::string& name) {
+    PopUpMenuModel& popup = _panel->favoritePopup();
+    const std::int64_t index = popup.indexOfItemWithTitle(name);
+    const PopUpMenuItem* item = popup.itemAtIndex(index);
+    if (!item || item->representedObject.empty()) throw CommandError(ExitInput, "unknown favorite \"" + name + "\"");
+    if (FavoriteFile(item->representedObject).version() == -1)
+        throw CommandError(ExitInput, "favorite \"" + name + "\" is not a favorite file this printer can use");
+    const PlistDictionary before = _panel->printOption();
+    popup.selectItemAtIndex(index);
+    _panel->selectFavorite();
+    for (const auto& [key, value] : _panel->printOption()) {
+        const VORNMgr::ControlList* controls = _manager->vornMgr().controlsOf(key);
+        const PlistValue* old = before.find(key);
+        if ((!controls || controls->empty()) && (!old || *old != value)) _plainValues.set(key, value);
+    }
 }
 
 void PanelSession::applyChange(const std::string& key, const std::string& value) {
@@ -163,6 +190,11 @@ void PanelSession::applyChange(const std::string& key, const std::string& value)
     NotifyUnit::postNotificationName(key, PlistDictionary{{"Paramater", value}});
     if (!choices.empty() && _manager->getStringValueFromKey(key) != value)
         throw CommandError(ExitRefused, argument + ": refused, it conflicts with other settings (see --answer)");
+    // The panel's model follows every setting, as the detailed settings window hands them
+    // over: a later change of the panel's own settings checks it against the favorite and
+    // may put it back into the panes.
+    if (auto gathered = _manager->gatherPrintOptionValues(nullptr, std::nullopt, false, false, false))
+        for (auto& [name, gatheredValue] : *gathered) _panel->printOption().set(name, std::move(gatheredValue));
 }
 
 void PanelSession::applyJobName(const std::string& jobName) {

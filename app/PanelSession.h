@@ -19,14 +19,15 @@ class TarnPDEByCocoa;
 
 namespace OstrinFlowCommand {
 
-/// The settings a command line asks for: each -o KEY=VALUE (internal keys) in order and
-/// the job name.
+/// The settings a command line asks for: the favorite to start from, each -o KEY=VALUE
+/// (internal keys) in order and the job name.
 struct SettingsRequest {
+    std::optional<std::string> favorite;
     std::vector<std::pair<std::string, std::string>> changes;
     std::optional<std::string> jobName;
 
-    /// Takes -o KEY=VALUE (also --option) and --job-name TEXT out of arguments; a malformed
-    /// -o is a usage error.
+    /// Takes --favorite NAME, -o KEY=VALUE (also --option) and --job-name TEXT out of
+    /// arguments; a malformed -o is a usage error.
     static SettingsRequest take(ArgumentList& arguments);
 };
 
@@ -40,16 +41,20 @@ public:
     PanelSession(const PanelSession&) = delete;
     PanelSession& operator=(const PanelSession&) = delete;
 
-    /// The defaults, then each change as the user makes it (the rule engine's questions go
-    /// to the alert presenter), the job name, the consistency check and the panel's save.
-    /// ExitSuccess, or ExitRefused when the check fails or a conflict is left standing (the
-    /// alert has said why). A value that is no choice of its setting is an input error.
+    /// The defaults, then the favorite as the favorite pop-up applies it, each change as
+    /// the user makes it (the rule engine's questions go to the alert presenter), the job
+    /// name and the consistency check. ExitSuccess, or ExitRefused when the check fails or
+    /// a conflict is left standing (the alert has said why). An unknown or unreadable
+    /// favorite and a value that is no choice of its setting are input errors.
+    int apply(const SettingsRequest& request);
+    /// apply, then the panel's save into the print settings; ExitSuccess or ExitRefused.
     int applyAndSave(const SettingsRequest& request);
 
     ComQuorvantVelmar_Plugin::PdeHost& host() { return *_host; }
     ComQuorvantVelmar_Plugin::TarnPDEByCocoa& panel() { return *_panel; }
 
 private:
+    void applyFavorite(const std::string& name);
     void applyChange(const std::string& key, const std::string& value);
     void applyJobName(const std::string& jobName);
 

@@ -8,6 +8,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "JsonIO.h"
+#include "TsvField.h"
 #include "print_service/WebServiceClient.h"
 
 namespace OstrinFlowCommand {
@@ -154,29 +155,6 @@ void failOnError(const std::optional<ServerRowList>& rows, const WebServiceClien
         error->domain == PrintServiceSoapError::kSoapResponseXMLDomain)
         throw CommandError(ExitInput, server + " sent a reply that is not well-formed XML");
     throw CommandError(ExitUnreachable, "cannot reach " + server + ": " + error->localizedDescription);
-}
-
-std::string tsvField(const std::string& value) {
-    std::string field;
-    for (char character : value) {
-        switch (character) {
-            case '\t':
-                field += "\\t";
-                break;
-            case '\n':
-                field += "\\n";
-                break;
-            case '\r':
-                field += "\\r";
-                break;
-            case '\\':
-                field += "\\\\";
-                break;
-            default:
-                field += character;
-        }
-    }
-    return field;
 }
 
 void printRows(const ServerRowList& rows, const std::string& format) {

@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config gettext
   libcups2-dev libxml2-dev zlib1g-dev libcurl4-openssl-dev libplist-dev nlohmann-json3-dev
+  libunistring-dev
   qt6-base-dev qt6-qpa-plugins
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   cups cups-client cups-ipp-utils xvfb

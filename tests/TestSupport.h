@@ -6,9 +6,11 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -89,6 +91,26 @@ public:
 private:
     struct rlimit _saved {};
     void (*_savedHandler)(int) = nullptr;
+};
+
+/// While it lives, the environment variable name holds value; then it holds what it held
+/// before (or is unset again).
+class EnvironmentOverride {
+public:
+    EnvironmentOverride(std::string name, const std::string& value) : _name(std::move(name)) {
+        if (const char* previous = std::getenv(_name.c_str())) _previous = previous;
+        ::setenv(_name.c_str(), value.c_str(), 1);
+    }
+    ~EnvironmentOverride() {
+        if (_previous) ::setenv(_name.c_str(), _previous->c_str(), 1);
+        else ::unsetenv(_name.c_str());
+    }
+    EnvironmentOverride(const EnvironmentOverride&) = delete;
+    EnvironmentOverride& operator=(const EnvironmentOverride&) = delete;
+
+private:
+    std::string _name;
+    std::optional<std::string> _previous;
 };
 
 }  // namespace OstrinTest

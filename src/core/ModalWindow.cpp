@@ -34,6 +34,11 @@ void ModalWindow::stopModalWithCode(int code) {
     if (_stopObserver) _stopObserver(code);
 }
 
+// The observer may replace itself while it runs.
+void ModalWindow::orderOut() {
+    if (auto observer = _orderOutObserver) observer();
+}
+
 void ModalWindows::setRunner(std::shared_ptr<ModalWindowRunner> runner) {
     currentRunner() = runner ? std::move(runner) : std::make_shared<ShowNothingRunner>();
 }

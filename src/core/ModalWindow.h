@@ -30,6 +30,17 @@ public:
     /// Called with the code when the run ends; the view layer leaves its event loop then.
     void setStopObserver(std::function<void(int)> observer) { _stopObserver = std::move(observer); }
 
+    /// Whether the window stays on screen when a run ends, until orderOut: a window whose
+    /// owner may run it again at once (an OK that the settings refuse) does not flicker
+    /// away and back, and a message about the refusal is its sheet. False unless set.
+    bool staysShownBetweenRuns() const { return _staysShown; }
+    void setStaysShownBetweenRuns(bool stays) { _staysShown = stays; }
+    /// Takes a window that stays shown between runs off the screen; tells the order-out
+    /// observer.
+    void orderOut();
+    /// Called when the window goes off the screen; the view layer hides it then.
+    void setOrderOutObserver(std::function<void()> observer) { _orderOutObserver = std::move(observer); }
+
     /// The field with the keyboard focus, or nullptr.
     const TextFieldModel* firstResponder() const { return _firstResponder; }
     void makeFirstResponder(const TextFieldModel* field) { _firstResponder = field; }
@@ -39,6 +50,8 @@ private:
     bool _running = false;
     int _endCode = 0;
     std::function<void(int)> _stopObserver;
+    bool _staysShown = false;
+    std::function<void()> _orderOutObserver;
     const TextFieldModel* _firstResponder = nullptr;
 };
 

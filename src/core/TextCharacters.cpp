@@ -1,8 +1,11 @@
 #include "core/TextCharacters.h"
 
 #include <iconv.h>
+#include <uninorm.h>
+#include <unistr.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <functional>
 
 namespace ComQuorvantVelmar_Plugin::TextCharacters {
@@ -84,6 +87,17 @@ std::size_t characterLength(std::string_view text) {
     std::size_t length = 0;
     for (char32_t character : decodeCharacters(text)) length += character > 0xFFFF ? 2 : 1;
     return length;
+}
+
+std::string precomposed(std::string_view text) {
+    const auto* bytes = reinterpret_cast<const uint8_t*>(text.data());
+    if (text.empty() || u8_check(bytes, text.size()) != nullptr) return std::string(text);
+    std::size_t length = 0;
+    uint8_t* normalised = u8_normalize(UNINORM_NFC, bytes, text.size(), nullptr, &length);
+    if (!normalised) return std::string(text);
+    std::string result(reinterpret_cast<const char*>(normalised), length);
+    std::free(normalised);
+    return result;
 }
 
 }  // namespace ComQuorvantVelmar_Plugin::TextCharacters

@@ -16,5 +16,8 @@ std::string withIllFormedBytesReplaced(std::string_view text, char replacement);
 /// The length of text in characters as the text fields count them (UTF-16 code units, so a
 /// character outside the Basic Multilingual Plane counts 2); 0 for an empty text.
 std::size_t characterLength(std::string_view text);
+/// text in Unicode's canonical precomposed form (NFC): "u" followed by a combining
+/// diaeresis becomes one "ü"; text unchanged when it is not well-formed UTF-8.
+std::string precomposed(std::string_view text);
 
 }  // namespace ComQuorvantVelmar_Plugin::TextCharacters

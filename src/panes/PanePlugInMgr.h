@@ -103,6 +103,12 @@ public:
     /// The tree node item resolved; the node itself.
     PlistDictionary resolveItem(const PlistDictionary& item, bool expandDependency) const;
     PlistDictionary resolveItem(const PlistDictionary& item) const { return resolveItem(item, false); }
+    /// The settings of the pane loaded under name that printOption (internal form) holds and
+    /// that have a display name, in pane order, as summary tree nodes: "mainKeyword",
+    /// "mainAlias", "plugInName" (name) and "differedWithDefault", true when the value is
+    /// not the default's (equal numbers such as "1" and "1.0" are equal); empty without
+    /// such a pane.
+    PlistArray settingItemsOfBundleName(const std::string& name, const PlistDictionary& printOption);
     /// Path of the UI settings file; "" when there is none.
     const std::string& getUIFilePath() const { return _uiFilePath; }
     /// Name of the UI settings file ("QVPOD"); "" when the bundle names none.

@@ -70,7 +70,7 @@ bool CupsQueueHost::readDestination(const CupsConnection& connection) {
         const cups_option_t& option = destination->options[index];
         if (std::string_view(option.name) == "device-uri") _deviceUri = option.value;
         if (SavedOptionsWriter::isJobOption(option.name))
-            _printSettings.setValue(option.name, std::string(option.value));
+            SavedOptionsWriter::readSavedOption(_printSettings, option.name, option.value);
     }
     cupsFreeDests(1, destination);
     return true;

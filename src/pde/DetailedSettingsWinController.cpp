@@ -34,6 +34,7 @@ DetailedSettingsWinController::DetailedSettingsWinController()
     _okButton->setAction([this](PanelButton&) { okButton(); });
     _cancelButton->setAction([this](PanelButton&) { cancelButton(); });
     _revertToDefaultButton->setAction([this](PanelButton&) { clickedRevertToDefault(); });
+    setStaysShownBetweenRuns(true);
 }
 
 DetailedSettingsWinController::~DetailedSettingsWinController() = default;
@@ -48,7 +49,8 @@ void DetailedSettingsWinController::reformatPrintOption(PlistDictionary& printOp
 }
 
 // OK is only as good as the settings behind it: the window stays open, showing what the
-// panes gathered, until the consistency check passes (the check has told the user why).
+// panes gathered, until the consistency check passes (the check has told the user why,
+// in a sheet of the window, which stays on screen between the runs).
 int DetailedSettingsWinController::showAsModalDialog(PlistDictionary& printOption) {
     _prevSelectedProfileName.reset();
     int result = 0;
@@ -63,6 +65,7 @@ int DetailedSettingsWinController::showAsModalDialog(PlistDictionary& printOptio
         if (manager.isPrintOptionConsistencyCheck(printOption)) break;
     }
     _visible = false;
+    orderOut();
     return result;
 }
 
@@ -72,16 +75,18 @@ void DetailedSettingsWinController::clickedRevertToDefault() {
     manager.restorePrintOptionValues(&defaults);
 }
 
+// The panes belong to the pane manager of the moment: a dialog host that replaces it gets
+// the new manager's panes, not views whose settings no longer reach any model.
 void DetailedSettingsWinController::awakeFromNib() {
-    if (_isAwake) return;
+    const std::shared_ptr<PanePlugInMgr> manager = PanePlugInMgr::sharedInstance();
+    if (_awakeWith.lock() == manager) return;
     try {
         _setTitles();
         _addPaneTabs();
-        PanePlugInMgr& manager = *PanePlugInMgr::sharedInstance();
-        _isTreeShown = manager.getTabTreeView();
+        _isTreeShown = manager->getTabTreeView();
         if (_isTreeShown) _tableColumn0Width = treeColumnWidthForLanguage(PreferredLanguages::first());
         selectViewStyleItem(_isTreeShown ? 1 : 0);
-        _isAwake = true;
+        _awakeWith = manager;
     } catch (const std::exception& exception) {
         throw std::runtime_error(std::string("Exception: ") + exception.what());
     }

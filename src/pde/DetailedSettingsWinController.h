@@ -10,6 +10,7 @@
 
 namespace ComQuorvantVelmar_Plugin {
 
+class PanePlugInMgr;
 class PanelButton;
 class TabViewNode;
 
@@ -40,7 +41,8 @@ public:
     /// Shows the defaults in every pane.
     void clickedRevertToDefault();
 
-    /// Titles, the panes as tabs, the tree's width and the view style; once.
+    /// Titles, the panes as tabs, the tree's width and the view style; once for each pane
+    /// manager of the process.
     void awakeFromNib();
     /// Applies the selected view style: tabs on top, or a tabless view beside the tree.
     void setupViewStylePopupButton();
@@ -63,6 +65,8 @@ public:
     const std::shared_ptr<PanelButton>& okButtonControl() const { return _okButton; }
     const std::shared_ptr<PanelButton>& cancelButtonControl() const { return _cancelButton; }
     const std::shared_ptr<PanelButton>& revertToDefaultButton() const { return _revertToDefaultButton; }
+    /// The button that opens the about box; the view layer shows the box.
+    const std::shared_ptr<PanelButton>& versionInfoButton() const { return _versionInfoButton; }
 
 private:
     void _setTitles();
@@ -80,7 +84,7 @@ private:
     double _tableColumn0Width = 0;
     int _viewStyleIndex = 0;
     std::function<bool()> _endEditing;
-    bool _isAwake = false;
+    std::weak_ptr<PanePlugInMgr> _awakeWith;
     bool _visible = false;
 };
 

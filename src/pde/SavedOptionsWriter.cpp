@@ -8,21 +8,31 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
+#include <sstream>
 
 #include "core/AtomicFile.h"
 #include "core/Diagnostics.h"
 #include "core/FileUtil.h"
 #include "pde/CupsConnection_p.h"
 #include "pde/PrintSettings.h"
+#include "pde/PrintSettingsTicket.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
 std::vector<CupsOptionText> optionsToSave(const PrintSettings& settings) {
     std::vector<CupsOptionText> options;
-    for (auto& option : settings.cupsOptions())
-        if (!option.second.empty() && SavedOptionsWriter::isJobOption(option.first))
+    std::string emptyNames;
+    const std::string_view prefix = PrintSettingsTicket::customKeyPrefix;
+    for (auto& option : settings.cupsOptions()) {
+        if (!SavedOptionsWriter::isJobOption(option.first) || option.first == SavedOptionsWriter::emptyValuesKey())
+            continue;
+        if (!option.second.empty())
             options.push_back(std::move(option));
+        else if (option.first.rfind(prefix, 0) == 0 && option.first.find(',') == std::string::npos)
+            emptyNames += (emptyNames.empty() ? "" : ",") + option.first.substr(prefix.size());
+    }
+    if (!emptyNames.empty()) options.emplace_back(SavedOptionsWriter::emptyValuesKey(), emptyNames);
     return options;
 }
 
@@ -83,6 +93,18 @@ void putBack(const std::string& path, const std::optional<std::string>& previous
 bool SavedOptionsWriter::isJobOption(std::string_view name) {
     return name != "device-uri" && name != "auth-info-required" && name != "marker-change-time" &&
            name.rfind("printer-", 0) != 0;
+}
+
+std::string SavedOptionsWriter::emptyValuesKey() { return PrintSettingsTicket::customKey("SavedEmptyValues"); }
+
+void SavedOptionsWriter::readSavedOption(PrintSettings& settings, const std::string& name, const std::string& value) {
+    if (name != emptyValuesKey()) {
+        settings.setValue(name, value);
+        return;
+    }
+    std::istringstream names(value);
+    for (std::string empty; std::getline(names, empty, ',');)
+        if (!empty.empty()) settings.setValue(PrintSettingsTicket::customKey(empty), std::string());
 }
 
 std::string SavedOptionsWriter::lpoptionsPath() {

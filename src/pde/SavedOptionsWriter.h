@@ -15,8 +15,17 @@ class SavedOptionsWriter {
 public:
     /// Replaces queue's saved options by settings. libcups writes the file in place, so the
     /// previous file is kept and put back unless every option reads back as written.
-    /// Empty values are left out: lpoptions would read them back as "true".
+    /// lpoptions reads an empty value back as "true", so the custom entries with empty
+    /// values are named in one entry of their own (emptyValuesKey) instead. libcups reads
+    /// at most 8 KB of a queue's saved options: a longer save fails and keeps the old file.
     static HostOutcome write(const std::string& queue, const PrintSettings& settings);
+
+    /// The saved option that names the custom entries saved empty, comma-separated,
+    /// without their prefix.
+    static std::string emptyValuesKey();
+    /// Takes a saved option as read back into settings: the names listed under
+    /// emptyValuesKey become empty values; any other option is set as it is.
+    static void readSavedOption(PrintSettings& settings, const std::string& name, const std::string& value);
 
     /// Whether a destination option is a job option, not the printer's description
     /// ("device-uri", "printer-state", ...) that libcups adds to every destination.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -161,6 +162,58 @@ public:
     /// Takes new job name values, as the job-name dialog's OK does, and shows them.
     void setJobNameValues(const std::string& specificJobName, const std::string& escapedJobName,
                           const std::string& jobName);
+    /// Save...: names the settings in the save-favorite dialog and saves them as a favorite.
+    void clickedSaveFavoriteButton();
+    /// Delete...: after the user agrees, the current favorite's file goes to the trash and
+    /// the panel shows the defaults.
+    void clickedDeleteFavoriteButton();
+    /// Opens the favorite manager; after OK the pop-up shows the favorites anew.
+    void clickedBrowseFavoriteButton();
+    /// The user picked an entry of the favorite pop-up: a favorite is applied to the
+    /// settings, the changed-settings marker keeps them.
+    void selectFavorite();
+    /// Saves the settings as the favorite name with comment and selects it in the pop-up;
+    /// its path, or nothing when there is nothing to save or no favorites folder.
+    std::optional<std::string> saveFavorite(const std::string& name, const std::string& comment);
+
+    // ---- The favorite pop-up ----
+    // Every operation does nothing, or answers notFound or nothing, without a pop-up.
+
+    /// The index that stands for no item (the largest signed 64-bit value).
+    static constexpr std::int64_t notFound = INT64_MAX;
+    /// The index of the changed-settings marker, or notFound.
+    std::int64_t _indexOfChangePreset() const;
+    /// Removes the marker; its former index, or notFound.
+    std::int64_t _removeChangeingPreset();
+    /// Removes the marker and keeps the selection on the same favorite.
+    void _removeChangedPresetTitleFromFavoritePopup();
+    /// The index of the current favorite: the one the selected marker stands for, else the
+    /// selected favorite; notFound when nothing is selected.
+    std::int64_t _currentFavoriteIndex() const;
+    /// The current favorite's title; nothing without one.
+    std::optional<std::string> _currentFavoriteName() const;
+    /// The current favorite's path ("" for the defaults entry); nothing without one.
+    std::optional<std::string> _currentFavoritePath() const;
+    /// The current favorite's options in PPD keywords: read from its file (nothing when it
+    /// cannot be read), or fallback converted for the entries that are no file.
+    std::optional<PlistDictionary> _currentFavoriteDictionary(PlistDictionary fallback) const;
+    /// Whether a setting of printOption differs from the current favorite's (the defaults
+    /// for the defaults entry); false for null. Equal numbers ("1", "1.0") and passwords
+    /// that decode to the same text are no difference, nor are keys only one side holds.
+    bool _isDifferFromCurrentFavorite(const PlistDictionary* printOption) const;
+    /// Inserts the marker above the current favorite when there is none and the favorite
+    /// is a file; its index, or notFound.
+    std::int64_t _insertChangingPreset();
+    /// Appends the favorite name at path and selects it, unless a listed favorite's title
+    /// sorts after name.
+    void _insertPreset(const std::string& name, const std::string& path);
+    /// After a change of the model: marks the favorite as changed while the settings differ
+    /// from it, else shows and applies it. reformat first completes a copy of the model
+    /// with every option the panes know.
+    void _checkDifferenceFromCurrentFavorite(bool reformat);
+    /// Applies the current favorite (the defaults for the defaults entry) to the model, the
+    /// panes, the copies and the tray.
+    void _reflectCurrentFavoriteToUi();
 
     // ---- State ----
 
@@ -190,6 +243,16 @@ public:
     }
     const std::shared_ptr<PanelButton>& bypassPaperTraySelectionButton() const { return _bypassPaperTraySelectionButton; }
     const std::shared_ptr<PanelLabel>& jobNameLabel() const { return _jobName; }
+    /// The favorite pop-up's items and selection.
+    PopUpMenuModel& favoritePopup() { return *_Favorite; }
+    /// The favorite pop-up's title; the view layer shows the pop-up beside it, hidden with it.
+    const std::shared_ptr<PanelLabel>& favoriteTitleLabel() const { return _titleFavorite; }
+    const std::shared_ptr<PanelButton>& saveFavoriteButton() const { return _saveFavoriteButton; }
+    const std::shared_ptr<PanelButton>& deleteFavoriteButton() const { return _deleteFavoriteButton; }
+    /// The title of the favorite last selected; nothing before a selection.
+    const std::optional<std::string>& selectedFavorite() const { return _selectedFavorite; }
+    /// The marker's title when it was inserted, else the title last selected.
+    const std::optional<std::string>& backupFavoriteName() const { return _backupFavoriteName; }
 
 private:
     // initialisation
@@ -211,9 +274,8 @@ private:
     std::optional<std::string> _selectedFavoriteRepresentedObject() const;
     void _selectFavoriteWithRepresentedObject(const std::string& representedObject);
     std::string _localized(const std::string& key) const;
-    // the parts of the favorite pop-up that later work fills in
-    void _checkDifferenceFromCurrentFavorite(bool reformat);
-    void selectFavorite();
+    bool _isChangeSettingTitle(const std::string& title) const;
+    bool _hasCurrentFavoriteFile() const;
 
     // Outlets of the panel view.
     std::shared_ptr<PanelButton> _deleteFavoriteButton;

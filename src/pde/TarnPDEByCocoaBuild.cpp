@@ -46,6 +46,8 @@ void TarnPDEByCocoa::_loadPanelView() {
     _showDetailedSettingsButton->setAction([this](PanelButton&) { clickedShowDetailedSettingsButton(); });
     _revertToDefaultSettingsButton->setAction([this](PanelButton&) { clickedRevertToDefaultSettings(); });
     _jobNameButton->setAction([this](PanelButton&) { clickedJobNameButton(); });
+    _saveFavoriteButton->setAction([this](PanelButton&) { clickedSaveFavoriteButton(); });
+    _deleteFavoriteButton->setAction([this](PanelButton&) { clickedDeleteFavoriteButton(); });
     PaneLayout::layOut(*_View);
 }
 

@@ -1,5 +1,4 @@
 #include "favorites/JobNameWinController.h"
-#include "favorites/PopUpMenuModel.h"
 #include "panes/PanePlugInMgr.h"
 #include "panes/PaneValueText_p.h"
 #include "pde/DetailedSettingsWinController.h"
@@ -92,38 +91,5 @@ void TarnPDEByCocoa::automaticPapaerTraySelectionDidEnd() {
     _gatherValuesFromPane(_printOption);
     _checkDifferenceFromCurrentFavorite(false);
 }
-
-std::optional<std::string> TarnPDEByCocoa::_selectedFavoriteRepresentedObject() const {
-    const PopUpMenuItem* item = _Favorite->itemAtIndex(_Favorite->indexOfSelectedItem());
-    if (!item || item->representedObject.empty()) return std::nullopt;
-    return item->representedObject;
-}
-
-void TarnPDEByCocoa::_selectFavoriteWithRepresentedObject(const std::string& representedObject) {
-    const std::int64_t index = _Favorite->indexOfItemWithRepresentedObject(representedObject);
-    if (index != PopUpMenuModel::notFound) _Favorite->selectItemAtIndex(index);
-    selectFavorite();
-}
-
-// Applying the selected favorite to the model, and keeping the pop-up's marker of changed
-// settings, belong to the favorite pop-up; until it joins, a selection keeps the model.
-void TarnPDEByCocoa::selectFavorite() {
-    if (_Favorite->indexOfSelectedItem() < 0) _Favorite->selectItemAtIndex(0);
-    const PopUpMenuItem* item = _Favorite->itemAtIndex(_Favorite->indexOfSelectedItem());
-    if (!item) return;
-    _selectedFavorite = item->title;
-    const std::string marker = _localized("Change Setting");
-    const bool isMarker = !marker.empty() && item->title.rfind(marker, 0) == 0;
-    _deleteFavoriteButton->setEnabled(!item->representedObject.empty() && !isMarker);
-    if (_isIntializedUi) _backupFavoriteName = _selectedFavorite;
-    if (isMarker) return;
-    const std::string collate = textOf(_printOption, "Collate");
-    if (collate == "1" || collate == "True") setCollate(true);
-    if (collate == "0" || collate == "False") setCollate(false);
-    if (auto duplex = _printOption.find("DuplexMode"))
-        _panePlugInMgr->setStringValue(PaneValueText::textOfValue(*duplex), "DuplexMode");
-}
-
-void TarnPDEByCocoa::_checkDifferenceFromCurrentFavorite(bool) {}
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -5,6 +5,7 @@
 #include "core/Alert.h"
 #include "core/Diagnostics.h"
 #include "core/StringHelpers.h"
+#include "core/TextCharacters.h"
 #include "panes/PanePlugInMgr.h"
 #include "panes/PaneValueText_p.h"
 #include "pde/DetailedSettingsWinController.h"
@@ -167,7 +168,10 @@ void TarnPDEByCocoa::_reformatAsDelegate() {
 void TarnPDEByCocoa::_writeModelToTicket(PlistDictionary* ppdDictionary, const PlistDictionary* oldModel) {
     for (const auto& [key, value] : _printOption) {
         if (!(value.isString() || value.isBoolean() || value.isNumber())) continue;
-        const std::string text = PaneValueText::textOfValue(_stringFromBooleanIfNeed(value));
+        std::string text = PaneValueText::textOfValue(_stringFromBooleanIfNeed(value));
+        // The press matches secure jobs by user name, so a name typed with combining marks
+        // must arrive as the same characters as one typed precomposed.
+        if (!oldModel && key == "UserName" && value.isString()) text = TextCharacters::precomposed(text);
         if (oldModel && isUnchanged(oldModel->find(key), text)) continue;
         _setValueToPpdDictionary(ppdDictionary, key, text);
     }

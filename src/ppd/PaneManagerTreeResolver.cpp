@@ -16,4 +16,9 @@ std::optional<std::string> PaneManagerTreeResolver::panelNameOfBundleName(const 
     return _managerNow()->panelNameOfBundleName(name);
 }
 
+PlistArray PaneManagerTreeResolver::settingItemsOfBundleName(const std::string& name,
+                                                            const PlistDictionary& printOption) {
+    return _managerNow()->settingItemsOfBundleName(name, printOption);
+}
+
 }  // namespace ComQuorvantVelmar_Plugin

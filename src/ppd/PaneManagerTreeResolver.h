@@ -17,6 +17,7 @@ public:
 
     PlistDictionary resolveItem(const PlistDictionary& item, bool expandDependency) override;
     std::optional<std::string> panelNameOfBundleName(const std::string& name) override;
+    PlistArray settingItemsOfBundleName(const std::string& name, const PlistDictionary& printOption) override;
 
 private:
     std::shared_ptr<PanePlugInMgr> _managerNow() const;

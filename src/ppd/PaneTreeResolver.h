@@ -17,6 +17,12 @@ public:
     virtual PlistDictionary resolveItem(const PlistDictionary& item, bool expandDependency) = 0;
     /// The title of the pane loaded under name; nothing when no such pane is loaded.
     virtual std::optional<std::string> panelNameOfBundleName(const std::string& name) = 0;
+    /// The settings of the pane loaded under name that printOption (internal form) holds, as
+    /// nodes marked "differedWithDefault" where they differ from the defaults; empty when
+    /// there is no such pane or nothing resolves settings.
+    virtual PlistArray settingItemsOfBundleName(const std::string& /*name*/, const PlistDictionary& /*printOption*/) {
+        return {};
+    }
 };
 
 }  // namespace ComQuorvantVelmar_Plugin

@@ -7,6 +7,7 @@
 #include "core/LocalizedString.h"
 #include "favorites/AppPreference.h"
 #include "ppd/PaneManagerTreeResolver.h"
+#include "ppd/PrintOptionConverter.h"
 
 namespace ComQuorvantVelmar_Plugin {
 namespace {
@@ -62,7 +63,11 @@ void PrintOptionTreeDataSource::_loadRoot() {
 }
 
 void PrintOptionTreeDataSource::updatePrintOption(const std::optional<PlistDictionary>& printOption, bool finish) {
-    if (printOption) _currentPrintOption = printOption;
+    if (printOption) {
+        _currentPrintOption = printOption;
+        _currentInternalPrintOption = *printOption;
+        PrintOptionConverter::convertToInternalPpdKeyword(_currentInternalPrintOption);
+    }
     if (finish) _finishUpdate();
 }
 
@@ -89,10 +94,19 @@ const PrintOptionTreeDataSource::Children& PrintOptionTreeDataSource::_children(
     if (auto cached = _settingTreeCache.find(node); cached != _settingTreeCache.end()) return cached->second;
     Children children;
     const PlistDictionary resolved = _resolveItem(item);
+    for (const PlistValue& setting : _settingItems(item, resolved))
+        if (setting.dictionary()) children.push_back(std::make_unique<const PlistDictionary>(*setting.dictionary()));
     if (const PlistValue* items = resolved.find("items"); items && items->array())
         for (const PlistValue& child : *items->array())
             if (child.dictionary()) children.push_back(std::make_unique<const PlistDictionary>(*child.dictionary()));
     return _settingTreeCache[node] = std::move(children);
+}
+
+// A pane's settings come ahead of its own items, marked where they differ from the defaults.
+PlistArray PrintOptionTreeDataSource::_settingItems(OutlineItem item, const PlistDictionary& resolved) {
+    const auto bundle = resolved.stringFor("bundleName");
+    if (!item || !_resolver || !_currentPrintOption || !bundle || bundle->empty()) return {};
+    return _resolver->settingItemsOfBundleName(*bundle, _currentInternalPrintOption);
 }
 
 std::size_t PrintOptionTreeDataSource::numberOfChildrenOfItem(OutlineItem item) { return _children(item).size(); }

@@ -26,7 +26,9 @@ public:
     /// Binds outlineView (not owned) and the resolution mode, loads the root from the
     /// plug-in bundle's pane tree, and becomes the control's data source.
     void setOutlineView(OutlineViewModel* outlineView, bool expandDependency);
-    /// Replaces the print options shown when printOption is given; updates when finish.
+    /// Replaces the print options shown (PPD keyword form) when printOption is given; each
+    /// pane then lists its settings that printOption holds ahead of its own items. Updates
+    /// when finish.
     void updatePrintOption(const std::optional<PlistDictionary>& printOption, bool finish);
     /// Loads the profile of a non-empty profilePath, drops it for an empty one, keeps it
     /// for nothing; updates when finish.
@@ -54,6 +56,7 @@ private:
     void _loadRoot();
     PlistDictionary _resolveItem(OutlineItem item);
     const Children& _children(OutlineItem item);
+    PlistArray _settingItems(OutlineItem item, const PlistDictionary& resolved);
     static bool _isMarkedDiffering(const PlistDictionary& node);
     std::string _iconName(const PlistDictionary& node) const;
     void _widenColumn(OutlineItem item, const std::string& label);
@@ -65,6 +68,8 @@ private:
     std::map<OutlineItem, Children> _settingTreeCache;
     std::map<OutlineItem, PlistDictionary> _itemCache;
     std::optional<PlistDictionary> _currentPrintOption;
+    /// _currentPrintOption in the panes' keys, as the pane manager compares it.
+    PlistDictionary _currentInternalPrintOption;
     std::optional<PlistDictionary> _profileDictionary;
     bool _isExpandDependency = false;
     std::string _folderIcon;

@@ -5,6 +5,10 @@
 #include "favorites/FavoriteWindowController.h"
 #include "favorites/JobNameWinController.h"
 #include "favorites/SaveFavoriteWindowController.h"
+#include "pde/DetailedSettingsWinController.h"
+#include "pde/PdeAutomaticPaperTraySelection.h"
+#include "pde/TarnPDEByCocoa.h"
+#include "qt/DetailedSettingsWindow.h"
 #include "ppd/PaneManagerTreeResolver.h"
 #include "qt/FavoriteWindow.h"
 #include "qt/JobNameWindow.h"
@@ -12,6 +16,7 @@
 #include "qt/QtFileChooserPresenter.h"
 #include "qt/QtModalWindowRunner.h"
 #include "qt/SaveFavoriteWindow.h"
+#include "qt/TraySheetWindow.h"
 
 namespace ComQuorvantVelmar_Plugin {
 
@@ -34,15 +39,42 @@ QtDialogs::QtDialogs(QWidget* parentWindow, std::shared_ptr<PaneTreeResolver> re
     ModalWindows::setRunner(_runner);
 }
 
+QtDialogs::QtDialogs(TarnPDEByCocoa& panel, QWidget* parentWindow, std::shared_ptr<PaneTreeResolver> resolver)
+    : QtDialogs(parentWindow, std::move(resolver)) {
+    installPanelWindows(panel, parentWindow);
+}
+
+// The panel makes its tray sheets when it builds its settings, which may be after this;
+// each gets its window when it first runs.
+void QtDialogs::installPanelWindows(TarnPDEByCocoa& panel, QWidget* parentWindow) {
+    auto& detailedSettings = DetailedSettingsWinController::sharedInstance();
+    _detailedSettings = new DetailedSettingsWindow(detailedSettings, parentWindow);
+    _runner->setView(detailedSettings, _detailedSettings);
+    const QPointer<QWidget> parent = parentWindow;
+    _runner->addViewMaker([this, &panel, parent](ModalWindow& window) -> ModalDialogView* {
+        for (const bool bypass : {false, true}) {
+            const auto& sheet = bypass ? panel.bypassPaperTraySelection() : panel.automaticPaperTraySelection();
+            if (sheet.get() != &window) continue;
+            _traySheets[bypass] = new TraySheetWindow(sheet, parent);
+            return _traySheets[bypass];
+        }
+        return nullptr;
+    });
+}
+
 JobNameWindow* QtDialogs::jobNameWindow() const { return _jobName; }
 SaveFavoriteWindow* QtDialogs::saveFavoriteWindow() const { return _saveFavorite; }
 FavoriteWindow* QtDialogs::favoriteWindow() const { return _favorite; }
+DetailedSettingsWindow* QtDialogs::detailedSettingsWindow() const { return _detailedSettings; }
+TraySheetWindow* QtDialogs::traySheetWindow(bool bypass) const { return _traySheets[bypass]; }
 
 // The windows may already be gone with their parent window.
 QtDialogs::~QtDialogs() {
     ModalWindows::setRunner(nullptr);
     FileChoosers::setPresenter(nullptr);
     Alerts::setPresenter(nullptr);
+    for (const auto& sheet : _traySheets) delete sheet.data();
+    delete _detailedSettings.data();
     delete _favorite.data();
     delete _saveFavorite.data();
     delete _jobName.data();

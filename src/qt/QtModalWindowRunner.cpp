@@ -1,5 +1,7 @@
 #include "qt/QtModalWindowRunner.h"
 
+#include <QEventLoop>
+
 #include "core/Diagnostics.h"
 #include "qt/ModalDialogView.h"
 #include "qt/QtAlertPresenter.h"
@@ -8,12 +10,13 @@
 namespace ComQuorvantVelmar_Plugin {
 namespace {
 
-// Puts the sheets on window for one run and back on the window before afterwards, so a
-// dialog opened from a dialog hands them back on closing.
+// Puts the sheets on window while the object lives and back on the window before
+// afterwards, so a dialog opened from a dialog hands them back on closing.
 class SheetParent {
 public:
-    SheetParent(QtAlertPresenter* alerts, QtFileChooserPresenter* files, QWidget* window)
-        : _alerts(alerts), _files(files) {
+    SheetParent(std::shared_ptr<QtAlertPresenter> alerts, std::shared_ptr<QtFileChooserPresenter> files,
+                QWidget* window)
+        : _alerts(std::move(alerts)), _files(std::move(files)) {
         if (_alerts) {
             _alertsBefore = _alerts->parentWindow();
             _alerts->setParentWindow(window);
@@ -31,8 +34,8 @@ public:
     SheetParent& operator=(const SheetParent&) = delete;
 
 private:
-    QtAlertPresenter* _alerts;
-    QtFileChooserPresenter* _files;
+    std::shared_ptr<QtAlertPresenter> _alerts;
+    std::shared_ptr<QtFileChooserPresenter> _files;
     QPointer<QWidget> _alertsBefore;
     QPointer<QWidget> _filesBefore;
 };
@@ -50,18 +53,55 @@ ModalDialogView* QtModalWindowRunner::viewFor(const ModalWindow& window) const {
     return found != _views.end() ? found->second.data() : nullptr;
 }
 
+void QtModalWindowRunner::addViewMaker(ViewMaker maker) { _makers.push_back(std::move(maker)); }
+
+ModalDialogView* QtModalWindowRunner::viewOrMade(ModalWindow& window) {
+    if (ModalDialogView* view = viewFor(window)) return view;
+    for (const ViewMaker& maker : _makers) {
+        if (ModalDialogView* view = maker(window)) {
+            setView(window, view);
+            return view;
+        }
+    }
+    return nullptr;
+}
+
 void QtModalWindowRunner::runModal(ModalWindow& window) {
-    QPointer<ModalDialogView> view = viewFor(window);
+    QPointer<ModalDialogView> view = viewOrMade(window);
     if (!view) {
         Diagnostics::log("### modal window without a Qt view cancelled: " + window.windowTitle());
         return;
     }
-    const SheetParent sheets(_alerts.get(), _files.get(), view);
+    if (window.staysShownBetweenRuns()) {
+        runStayingShown(window, view);
+        return;
+    }
+    const SheetParent sheets(_alerts, _files, view);
     window.setStopObserver([view](int code) {
         if (view) view->done(code);
     });
     view->refresh();
     view->exec();
+    window.setStopObserver({});
+}
+
+// The window goes up on its first run and its sheets with it; both stay until the
+// controller orders the window out, so a message between two runs is a sheet of it.
+void QtModalWindowRunner::runStayingShown(ModalWindow& window, ModalDialogView* view) {
+    QPointer<ModalDialogView> guarded = view;
+    view->refresh();
+    if (!view->isVisible()) {
+        auto sheets = std::make_shared<SheetParent>(_alerts, _files, view);
+        window.setOrderOutObserver([guarded, sheets, &window] {
+            if (guarded) guarded->hide();
+            window.setOrderOutObserver({});
+        });
+        view->show();
+    }
+    QEventLoop loop;
+    window.setStopObserver([&loop](int) { loop.quit(); });
+    QObject::connect(view, &QObject::destroyed, &loop, &QEventLoop::quit);
+    if (window.isRunning()) loop.exec(QEventLoop::DialogExec);
     window.setStopObserver({});
 }
 

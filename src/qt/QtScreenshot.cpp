@@ -15,8 +15,9 @@ bool QtScreenshot::saveWidget(QWidget& widget, const std::string& path) {
     if (!wasShown) {
         widget.setAttribute(Qt::WA_DontShowOnScreen, true);
         widget.show();
-        QApplication::processEvents();
     }
+    // A shown widget may still owe a layout for a change just made.
+    QApplication::processEvents();
     const QPixmap picture = widget.grab();
     if (!wasShown) {
         widget.hide();

@@ -23,7 +23,10 @@ void expectUnreachable(const CommandResult& result, const std::string& prefix) {
 
 }  // namespace
 
-TEST(CommandFailure, PrintServerResettingOrFloodingMidReplyExitsFour) {
+TEST(CommandFailure, PrintServerAbsentResettingOrFloodingMidReplyExitsFour) {
+    const std::string absent = "127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort());
+    expectUnreachable(runCommand({"server", "stackers", "--host", absent}),
+                      "ostrin-flow: cannot reach the print server " + absent + ": ");
     LoopbackHttpServer server({CannedReply::resetHalfWay(4096), CannedReply::endless()});
     const std::string prefix = "ostrin-flow: cannot reach the print server " + hostOf(server) + ": ";
     expectUnreachable(runCommand({"server", "fonts", "--host", hostOf(server)}), prefix);

@@ -41,27 +41,20 @@ protected:
 
 }  // namespace
 
-TEST_F(ConvertCommand, ToCanonicalPrintsWhatTheLibraryAnswers) {
-    PlistDictionary expected = realisticInternalOptions();
-    PrintOptionConverter::convertToCanonicalPpdKeyword(expected, 1);
-    const std::string path = folder.file("internal.json");
-    OstrinTest::writeFile(path, toJson(realisticInternalOptions()).dump());
-    auto result = runCommand({"--lang", "fr", "convert", "--to", "canonical", path});
-    ASSERT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_EQ(Json::parse(result.out), toJson(expected));
-    EXPECT_EQ(Json::parse(result.out)["TwoColorPressSimulationSpotSpotName"], "Gold 1.5,Silver 2.5");
-}
-
-TEST_F(ConvertCommand, ToInternalPrintsWhatTheLibraryAnswers) {
+TEST_F(ConvertCommand, BothDirectionsPrintWhatTheLibraryAnswers) {
     PlistDictionary press = realisticInternalOptions();
     PrintOptionConverter::convertToCanonicalPpdKeyword(press, 1);
-    PlistDictionary expected = press;
-    PrintOptionConverter::convertToInternalPpdKeyword(expected);
-    const std::string path = folder.file("canonical.json");
-    OstrinTest::writeFile(path, toJson(press).dump());
-    auto result = runCommand({"--lang", "fr", "convert", "--to", "internal", path});
-    ASSERT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_EQ(Json::parse(result.out), toJson(expected));
+    PlistDictionary internal = press;
+    PrintOptionConverter::convertToInternalPpdKeyword(internal);
+    OstrinTest::writeFile(folder.file("internal.json"), toJson(realisticInternalOptions()).dump());
+    OstrinTest::writeFile(folder.file("canonical.json"), toJson(press).dump());
+    auto canonical = runCommand({"--lang", "fr", "convert", "--to", "canonical", folder.file("internal.json")});
+    ASSERT_EQ(canonical.exitCode, 0) << canonical.err;
+    EXPECT_EQ(Json::parse(canonical.out), toJson(press));
+    EXPECT_EQ(Json::parse(canonical.out)["TwoColorPressSimulationSpotSpotName"], "Gold 1.5,Silver 2.5");
+    auto back = runCommand({"--lang", "fr", "convert", "--to", "internal", folder.file("canonical.json")});
+    ASSERT_EQ(back.exitCode, 0) << back.err;
+    EXPECT_EQ(Json::parse(back.out), toJson(internal));
 }
 
 TEST_F(ConvertCommand, ReadsStandardInputAndKeepsValueKinds) {
@@ -88,18 +81,29 @@ TEST_F(ConvertCommand, TableDirectionsUseTheBundlesConversionTable) {
     EXPECT_EQ(Json::parse(toInputManager.out), Json::parse(R"({"PP_TRAY": 3, "SC_SECURE": true})"));
 }
 
-TEST_F(ConvertCommand, MalformedJsonIsAnInputError) {
-    for (const char* direction : {"canonical", "internal", "ppd-format", "input-manager"}) {
-        auto result = runCommand({"convert", "--to", direction}, R"({"Punch_PunchHoles": )");
-        EXPECT_EQ(result.exitCode, 3) << direction;
-        EXPECT_EQ(result.err, "ostrin-flow: standard input is not valid JSON\n");
+// Malformed JSON in any direction, input that is no object, a missing file: one line, exit 3.
+TEST_F(ConvertCommand, InputThatIsNoJsonObjectIsAnInputError) {
+    const std::string broken = folder.file("broken.json");
+    OstrinTest::writeFile(broken, "{\"a\": [1,}");
+    const struct {
+        std::vector<std::string> arguments;
+        std::string input;
+        std::string err;
+    } cases[] = {
+        {{"convert", "--to", "canonical"}, R"({"Punch_PunchHoles": )", "standard input is not valid JSON"},
+        {{"convert", "--to", "input-manager"}, R"({"Punch_PunchHoles": )", "standard input is not valid JSON"},
+        {{"convert", "--to", "canonical", broken}, "", broken + " is not valid JSON"},
+        {{"convert", "--to", "internal"}, "[1, 2]", "standard input does not hold a JSON object"},
+    };
+    for (const auto& probe : cases) {
+        auto result = runCommand(probe.arguments, probe.input);
+        EXPECT_EQ(result.exitCode, 3) << probe.err;
+        EXPECT_EQ(result.err, "ostrin-flow: " + probe.err + "\n");
         EXPECT_TRUE(result.out.empty());
     }
-    const std::string path = folder.file("broken.json");
-    OstrinTest::writeFile(path, "{\"a\": [1,}");
-    auto file = runCommand({"convert", "--to", "canonical", path});
-    EXPECT_EQ(file.exitCode, 3);
-    EXPECT_EQ(file.err, "ostrin-flow: " + path + " is not valid JSON\n");
+    auto missing = runCommand({"convert", "--to", "internal", folder.file("absent.json")});
+    EXPECT_EQ(missing.exitCode, 3);
+    EXPECT_NE(missing.err.find(folder.file("absent.json")), std::string::npos);
 }
 
 TEST_F(ConvertCommand, DeeplyNestedJsonIsAnInputErrorNotACrash) {
@@ -117,15 +121,6 @@ TEST_F(ConvertCommand, DeeplyNestedJsonIsAnInputErrorNotACrash) {
     EXPECT_EQ(shallow.exitCode, 0) << shallow.err;
 }
 
-TEST_F(ConvertCommand, InputThatIsNoObjectOrNoFileIsAnInputError) {
-    auto array = runCommand({"convert", "--to", "internal"}, "[1, 2]");
-    EXPECT_EQ(array.exitCode, 3);
-    EXPECT_EQ(array.err, "ostrin-flow: standard input does not hold a JSON object\n");
-    auto missing = runCommand({"convert", "--to", "internal", folder.file("absent.json")});
-    EXPECT_EQ(missing.exitCode, 3);
-    EXPECT_NE(missing.err.find(folder.file("absent.json")), std::string::npos);
-}
-
 TEST_F(ConvertCommand, BundleWithoutConversionTableIsAnInputError) {
     auto noBundle = runCommand({"--resources", folder.path(), "convert", "--to", "ppd-format"}, "{}");
     EXPECT_EQ(noBundle.exitCode, 3);
@@ -140,20 +135,28 @@ TEST_F(ConvertCommand, BundleWithoutConversionTableIsAnInputError) {
 }
 
 TEST_F(ConvertCommand, MissingOrUnknownDirectionIsAUsageError) {
-    auto missing = runCommand({"convert"}, "{}");
-    EXPECT_EQ(missing.exitCode, 2);
-    EXPECT_NE(missing.err.find("convert needs --to"), std::string::npos);
-    auto unknown = runCommand({"convert", "--to", "press"}, "{}");
-    EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_NE(unknown.err.find("not \"press\""), std::string::npos);
-    auto extra = runCommand({"convert", "--to", "internal", "a.json", "b.json"});
-    EXPECT_EQ(extra.exitCode, 2);
+    for (const auto& [arguments, message] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"convert"}, "convert needs --to"},
+             {{"convert", "--to", "press"}, "not \"press\""},
+             {{"convert", "--to", "internal", "a.json", "b.json"}, ""}}) {
+        auto result = runCommand(arguments, "{}");
+        EXPECT_EQ(result.exitCode, 2) << message;
+        EXPECT_NE(result.err.find(message), std::string::npos) << result.err;
+    }
 }
 
-TEST_F(ConvertCommand, PasswordsGoThroughTheBundlesEncodingLibrary) {
+// With the bundle's encoding library passwords are encoded and decoded; without it they
+// are written empty, with a warning only when there was one to write.
+TEST_F(ConvertCommand, PasswordsGoThroughTheBundlesEncodingLibraryElseAreWrittenEmpty) {
     const std::string bundle = folder.file("Press.bundle");
     std::filesystem::create_directories(bundle + "/Contents/Resources");
     PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
+    auto bare = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": "pw"})");
+    ASSERT_EQ(bare.exitCode, 0) << bare.err;
+    EXPECT_EQ(Json::parse(bare.out)["AuthJobPassword"], "");
+    EXPECT_EQ(bare.err, "ostrin-flow: warning: no encoding library in " + bundle + "; passwords are written empty\n");
+    EXPECT_EQ(runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": ""})").err, "");
+
     std::filesystem::copy_file(std::string(OSTRIN_STAND_IN_ENCRYPTION_FOLDER) + "/libencryption.so",
                                bundle + "/Contents/Resources/libencryption.so");
     auto press = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"SecPrintPassword": "1234"})");
@@ -165,30 +168,16 @@ TEST_F(ConvertCommand, PasswordsGoThroughTheBundlesEncodingLibrary) {
     EXPECT_EQ(Json::parse(panes.out)["RscPassword"], "1234");
 }
 
-TEST_F(ConvertCommand, PasswordsWithoutEncodingLibraryAreWrittenEmptyWithAWarning) {
-    const std::string bundle = folder.file("Bare.bundle");
-    std::filesystem::create_directories(bundle + "/Contents/Resources");
-    PlistIO::writeFile(bundle + "/Contents/Info.plist", PlistDictionary{{"CFBundleName", "OstrinFlow"}});
-    auto result = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": "pw"})");
-    ASSERT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_EQ(Json::parse(result.out)["AuthJobPassword"], "");
-    EXPECT_EQ(result.err, "ostrin-flow: warning: no encoding library in " + bundle + "; passwords are written empty\n");
-    auto noPassword = runCommand({"--resources", bundle, "convert", "--to", "canonical"}, R"({"AuthJobPassword": ""})");
-    EXPECT_EQ(noPassword.err, "");
-}
-
-TEST(PaperSizeCommand, PrintsTheSizeRecord) {
+// A size record in cep; names are exact, and Custom and NoChange have none.
+TEST(PaperSizeCommand, PrintsTheSizeRecordOfAKnownName) {
     auto result = runCommand({"paper-size", "A4LEF"});
     ASSERT_EQ(result.exitCode, 0) << result.err;
     EXPECT_EQ(result.out, "{\n  \"typeNum\": \"2\",\n  \"height\": \"119056\",\n  \"width\": \"168378\"\n}\n");
-}
-
-TEST(PaperSizeCommand, UnknownNameIsAnInputError) {
     for (const char* name : {"a4lef", "Custom", "NoChange"}) {
-        auto result = runCommand({"paper-size", name});
-        EXPECT_EQ(result.exitCode, 3) << name;
-        EXPECT_EQ(result.err, "ostrin-flow: unknown paper size \"" + std::string(name) + "\"\n");
-        EXPECT_TRUE(result.out.empty());
+        auto unknown = runCommand({"paper-size", name});
+        EXPECT_EQ(unknown.exitCode, 3) << name;
+        EXPECT_EQ(unknown.err, "ostrin-flow: unknown paper size \"" + std::string(name) + "\"\n");
+        EXPECT_TRUE(unknown.out.empty());
     }
     EXPECT_EQ(runCommand({"paper-size"}).exitCode, 2);
 }

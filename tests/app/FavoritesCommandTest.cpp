@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include <filesystem>
 
 #include "CommandRunner.h"
@@ -7,6 +9,7 @@
 
 namespace fs = std::filesystem;
 using OstrinTest::dataPath;
+using Json = nlohmann::ordered_json;
 
 namespace {
 
@@ -90,13 +93,28 @@ TEST_F(FavoritesCommand, ShowsAnEucJpFavoriteInUtf8) {
               "Comment: 会議用の両面印刷\nJobName=見積書\nDuplexMode=DuplexNoTumble\n");
 }
 
-TEST_F(FavoritesCommand, UnknownOrUnreadableFavoriteExitsThree) {
+// Unknown or unreadable favorites, and names or comments a favorite cannot have.
+TEST_F(FavoritesCommand, RefusedFavoritesNamesAndCommentsExitThree) {
     addFavorite("other-device.pqz", "Other");
-    expectInputError(run({"favorites", "show", "Nope"}), "unknown favorite \"Nope\"");
-    expectInputError(run({"favorites", "delete", "Nope"}), "unknown favorite \"Nope\"");
-    expectInputError(run({"favorites", "export", "Nope", file("x.pqz")}), "unknown favorite \"Nope\"");
-    expectInputError(run({"favorites", "show", "Other"}),
-                     "favorite \"Other\" is not a favorite file this printer can use");
+    const struct {
+        std::vector<std::string> arguments;
+        std::string message;
+    } cases[] = {
+        {{"favorites", "show", "Nope"}, "unknown favorite \"Nope\""},
+        {{"favorites", "delete", "Nope"}, "unknown favorite \"Nope\""},
+        {{"favorites", "export", "Nope", file("x.pqz")}, "unknown favorite \"Nope\""},
+        {{"options", "--favorite", "Nope"}, "unknown favorite \"Nope\""},
+        {{"favorites", "show", "Other"}, "favorite \"Other\" is not a favorite file this printer can use"},
+        {{"favorites", "save", "Copy", "--favorite", "Other"},
+         "favorite \"Other\" is not a favorite file this printer can use"},
+        {{"favorites", "save", "Default Settings"},
+         "cannot save favorite \"Default Settings\": This name belongs to the default settings. Please choose "
+         "another name."},
+        {{"favorites", "save", "Proofs", "--comment", std::string(256, 'c')},
+         "cannot save favorite \"Proofs\": --comment: A comment must not be longer than 255 bytes."},
+    };
+    for (const auto& probe : cases) expectInputError(run(probe.arguments), probe.message);
+    EXPECT_EQ(run({"favorites", "list"}).out.find("Copy"), std::string::npos);
 }
 
 TEST_F(FavoritesCommand, DeleteMovesTheFileToTheTrash) {
@@ -155,10 +173,43 @@ TEST_F(FavoritesCommand, BadActionsAreUsageErrors) {
     EXPECT_EQ(run({"favorites", "show"}).exitCode, 2);
     EXPECT_EQ(run({"favorites", "export", "a"}).exitCode, 2);
     EXPECT_EQ(run({"favorites", "list", "extra"}).exitCode, 2);
+    EXPECT_EQ(run({"favorites", "save"}).exitCode, 2);
 }
 
 TEST_F(FavoritesCommand, BundleWithoutFolderNamesIsAnInputError) {
     fs::create_directories(file("Empty.bundle/Contents"));
     expectInputError(run({"--resources", file("Empty.bundle"), "favorites", "list"}),
                      file("Empty.bundle") + ": no extension bundle naming the favorites folder");
+}
+
+TEST_F(FavoritesCommand, SavedSettingsComeBackThroughOptionsWithTheFavorite) {
+    // A setting of the panes, then settings of the panel, which check the model against the
+    // favorite selected (the defaults) and must not take the first one back.
+    const std::vector<std::string> changes{"-o", "Trimmer=True", "-o", "StapleMode=Saddle",
+                                           "-o", "DuplexMode=DuplexNoTumble"};
+    std::vector<std::string> save{"favorites", "save", "Proofs", "--comment", "for Ana"};
+    save.insert(save.end(), changes.begin(), changes.end());
+    const auto saved = run(save);
+    ASSERT_EQ(saved.exitCode, 0) << saved.err;
+    EXPECT_EQ(saved.out, "");
+    const std::string path = favoritesFolder() + "/Proofs.pqz";
+    EXPECT_EQ(run({"favorites", "list"}).out, "Proofs\n  comment: for Ana\n  path: " + path + "\n");
+    const Json shown = Json::parse(run({"--format", "json", "favorites", "show", "Proofs"}).out);
+    EXPECT_EQ(shown.value("Trimmer", Json()), true);
+    EXPECT_EQ(shown.value("StapleMode", Json()), "Saddle");
+
+    std::vector<std::string> direct{"--format", "json", "options"};
+    direct.insert(direct.end(), changes.begin(), changes.end());
+    const Json expected = Json::parse(run(direct).out);
+    EXPECT_EQ(expected["ppd"]["Trimmer"], "True");
+    const Json restored = Json::parse(run({"--format", "json", "options", "--favorite", "Proofs"}).out);
+    for (const auto& [group, settings] : expected.items())
+        for (const auto& [key, value] : settings.items()) EXPECT_EQ(restored[group].value(key, Json()), value) << key;
+    EXPECT_EQ(restored["custom"]["FavoriteName"], path);
+    // Later -o changes win over the favorite.
+    const Json changed =
+        Json::parse(run({"--format", "json", "options", "--favorite", "Proofs", "-o", "DuplexMode=None"}).out);
+    EXPECT_EQ(restored["ppd"]["DuplexMode"], "DuplexNoTumble");
+    EXPECT_EQ(changed["ppd"]["DuplexMode"], "None");
+    EXPECT_EQ(changed["ppd"]["StapleMode"], "Saddle");
 }

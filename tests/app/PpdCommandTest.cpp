@@ -76,7 +76,9 @@ TEST(PpdCommand, ListsAGivenPpdFileAsText) {
               std::string::npos);
 }
 
-TEST(PpdCommand, MalformedOrMissingPpdIsAnInputErrorOfOneLine) {
+// A malformed or missing PPD or bundle is an input error, an unreachable cupsd exit 4, a
+// format the command does not offer a usage error; each says so in one line.
+TEST(PpdCommand, ErrorsEndWithTheirCodeAndOneLine) {
     const std::string malformed = dataPath("ppd/malformed.ppd");
     auto result = runCommand({"--ppd", malformed, "ppd", "--format", "json"});
     EXPECT_EQ(result.exitCode, 3);
@@ -89,18 +91,12 @@ TEST(PpdCommand, MalformedOrMissingPpdIsAnInputErrorOfOneLine) {
     auto noBundle = runCommand({"--resources", "/nonexistent/OstrinFlow.bundle", "ppd"});
     EXPECT_EQ(noBundle.exitCode, 3);
     EXPECT_EQ(lineCount(noBundle.err), 1u);
-}
-
-TEST(PpdCommand, UnreachableCupsdExitsFour) {
-    auto result = runCommand({"--queue", "Ostrin", "ppd"}, {}, {"CUPS_SERVER=127.0.0.1:1"});
-    EXPECT_EQ(result.exitCode, 4);
-    EXPECT_EQ(result.err, "ostrin-flow: queue Ostrin: cupsd at 127.0.0.1:1 cannot be reached\n");
-}
-
-TEST(PpdCommand, OffersOnlyTextAndJson) {
-    auto result = runCommand({"ppd", "--format", "lp"});
-    EXPECT_EQ(result.exitCode, 2);
-    EXPECT_NE(result.err.find("--format lp is not offered here (text, json)"), std::string::npos);
+    auto unreachable = runCommand({"--queue", "Ostrin", "ppd"}, {}, {"CUPS_SERVER=127.0.0.1:1"});
+    EXPECT_EQ(unreachable.exitCode, 4);
+    EXPECT_EQ(unreachable.err, "ostrin-flow: queue Ostrin: cupsd at 127.0.0.1:1 cannot be reached\n");
+    auto lp = runCommand({"ppd", "--format", "lp"});
+    EXPECT_EQ(lp.exitCode, 2);
+    EXPECT_NE(lp.err.find("--format lp is not offered here (text, json)"), std::string::npos);
     EXPECT_EQ(runCommand({"ppd", "extra"}).exitCode, 2);
 }
 

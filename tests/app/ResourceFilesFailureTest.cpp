@@ -93,24 +93,10 @@ void expectEveryCommandAnswersCleanly(const std::string& resource) {
 
 }  // namespace
 
-TEST(ResourceFilesFailure, DamagedUIDescriptionNeverCrashesACommand) {
-    expectEveryCommandAnswersCleanly("Resources/OstrinFlowUI.plist");
-}
-
-TEST(ResourceFilesFailure, PanesWithoutTheirUIDescriptionAreAnInputErrorNotEmptyDefaults) {
-    for (const char* resource : {"Resources/OstrinFlowUI.plist", "Info.plist"})
-        for (Damage damage : {Damage::Missing, Damage::Truncated}) {
-            DamagedBundle damaged(resource, damage);
-            const CommandResult result = damaged.run({"defaults"});
-            EXPECT_EQ(result.exitCode, 3) << resource << " " << nameOf(damage);
-            EXPECT_EQ(result.out, "");
-            EXPECT_EQ(result.err, "ostrin-flow: the extension bundle " + damaged.bundle() +
-                                      " has no settings: its UI description is missing or unreadable\n");
-        }
-}
-
-TEST(ResourceFilesFailure, DamagedPaneTreeNeverCrashesACommand) {
-    expectEveryCommandAnswersCleanly("Resources/PanesTree.plist");
+TEST(ResourceFilesFailure, DamagedResourceNeverCrashesACommand) {
+    for (const char* resource : {"Resources/OstrinFlowUI.plist", "Resources/PanesTree.plist",
+                                 "Resources/ConvertTable.plist", "Resources/miscellaneous.plist", "Info.plist"})
+        expectEveryCommandAnswersCleanly(resource);
 }
 
 // Without the tree no pane knows its side: each loads once, under its bundle's name.
@@ -127,34 +113,30 @@ TEST(ResourceFilesFailure, WithoutThePaneTreeEveryPaneStillLoadsOnce) {
     for (const auto& [key, value] : settings.items()) EXPECT_EQ(everySetting.value(key, nlohmann::json()), value) << key;
 }
 
-TEST(ResourceFilesFailure, DamagedConversionTableNeverCrashesACommand) {
-    expectEveryCommandAnswersCleanly("Resources/ConvertTable.plist");
-}
-
-TEST(ResourceFilesFailure, TableConversionsNeedAReadableTableAndItsName) {
-    for (const char* resource : {"Resources/ConvertTable.plist", "Resources/miscellaneous.plist"})
-        for (Damage damage : EveryDamage) {
-            DamagedBundle damaged(resource, damage);
-            const CommandResult result = damaged.run({"convert", "--to", "ppd-format", "JOB"});
-            EXPECT_EQ(result.exitCode, 3) << resource << " " << nameOf(damage);
-            EXPECT_EQ(result.err, "ostrin-flow: the extension bundle " + damaged.bundle() +
-                                      " has no keyword conversion table\n");
-        }
-}
-
-TEST(ResourceFilesFailure, DamagedMiscellaneousPreferencesNeverCrashACommand) {
-    expectEveryCommandAnswersCleanly("Resources/miscellaneous.plist");
-}
-
-TEST(ResourceFilesFailure, WithoutTheMiscellaneousPreferencesThereIsNoFavoritesFolder) {
-    for (Damage damage : EveryDamage) {
-        DamagedBundle damaged("Resources/miscellaneous.plist", damage);
-        const CommandResult result = damaged.run({"favorites", "list"});
-        EXPECT_EQ(result.exitCode, 3) << nameOf(damage);
-        EXPECT_EQ(result.err, "ostrin-flow: " + damaged.bundle() + ": no extension bundle naming the favorites folder\n");
-    }
-}
-
-TEST(ResourceFilesFailure, DamagedInformationDictionaryNeverCrashesACommand) {
-    expectEveryCommandAnswersCleanly("Info.plist");
+// A resource a command cannot do without is an input error naming the bundle, never empty
+// defaults, an identity conversion or a folder elsewhere.
+TEST(ResourceFilesFailure, CommandsNeedingADamagedResourceAreInputErrors) {
+    const struct {
+        std::vector<const char*> resources;
+        std::vector<Damage> damages;
+        std::vector<std::string> command;
+        std::string message;  // after the bundle's path
+    } cases[] = {
+        {{"Resources/OstrinFlowUI.plist", "Info.plist"}, {Damage::Missing, Damage::Truncated}, {"defaults"},
+         " has no settings: its UI description is missing or unreadable"},
+        {{"Resources/ConvertTable.plist", "Resources/miscellaneous.plist"}, {std::begin(EveryDamage), std::end(EveryDamage)},
+         {"convert", "--to", "ppd-format", "JOB"}, " has no keyword conversion table"},
+        {{"Resources/miscellaneous.plist"}, {std::begin(EveryDamage), std::end(EveryDamage)}, {"favorites", "list"},
+         ": no extension bundle naming the favorites folder"},
+    };
+    for (const auto& probe : cases)
+        for (const char* resource : probe.resources)
+            for (Damage damage : probe.damages) {
+                DamagedBundle damaged(resource, damage);
+                const CommandResult result = damaged.run(probe.command);
+                EXPECT_EQ(result.exitCode, 3) << resource << " " << nameOf(damage);
+                EXPECT_EQ(result.out, "");
+                const std::string prefix = probe.command[0] == "favorites" ? "" : "the extension bundle ";
+                EXPECT_EQ(result.err, "ostrin-flow: " + prefix + damaged.bundle() + probe.message + "\n");
+            }
 }

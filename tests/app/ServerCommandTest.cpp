@@ -59,15 +59,6 @@ TEST(ServerCommand, TsvWritesTabsAndLineBreaksOfValuesAsEscapes) {
     EXPECT_EQ(result.out, "a\\tb\tline\\none \\\\ two\n");
 }
 
-TEST(ServerCommand, UnreachableServerExitsFourWithOneLine) {
-    const std::string host = "127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort());
-    auto result = runCommand({"server", "stackers", "--host", host});
-    EXPECT_EQ(result.exitCode, 4);
-    EXPECT_TRUE(result.out.empty());
-    EXPECT_EQ(result.err.find('\n'), result.err.size() - 1) << result.err;
-    EXPECT_EQ(result.err.rfind("ostrin-flow: cannot reach the print server " + host + ": ", 0), 0u) << result.err;
-}
-
 TEST(ServerCommand, MalformedReplyExitsThree) {
     LoopbackHttpServer server({CannedReply::soap("<getFontListResponse>")});
     auto result = runCommand({"server", "fonts", "--host", hostOf(server)});

@@ -53,18 +53,6 @@ TEST(TerminalAlertPresenter, MessagesPrintTheirLinesAndAnswerOk) {
               "Change the output tray?\nStapling needs the finisher tray.\nThe tray will be changed.\n");
 }
 
-TEST(TerminalAlertPresenter, WithoutATerminalTheAnswerOptionDecides) {
-    std::istringstream input("1\n");
-    Output yesOutput;
-    TerminalAlertPresenter yes(AnswerPolicy::Yes, false, input, yesOutput.stream());
-    EXPECT_EQ(yes.runModal(question()), AlertFirstButtonReturn);
-    EXPECT_NE(yesOutput.text().find("(answered \"Yes\" by --answer yes)"), std::string::npos);
-    Output noOutput;
-    TerminalAlertPresenter no(AnswerPolicy::No, false, input, noOutput.stream());
-    EXPECT_EQ(no.runModal(question()), AlertSecondButtonReturn);
-    EXPECT_NE(noOutput.text().find("(answered \"No\" by --answer no)"), std::string::npos);
-}
-
 TEST(TerminalAlertPresenter, AtATerminalTheUserChoosesByNumber) {
     Output output;
     std::istringstream input("2\n\nmaybe\n7\n1\n");
@@ -75,11 +63,17 @@ TEST(TerminalAlertPresenter, AtATerminalTheUserChoosesByNumber) {
     EXPECT_NE(output.text().find("  [1] Yes\n  [2] No\nChoose 1-2 [1]: "), std::string::npos);
 }
 
-TEST(TerminalAlertPresenter, AtTheEndOfInputTheAnswerOptionDecides) {
-    Output output;
-    std::istringstream input("x\n");
-    TerminalAlertPresenter presenter(AnswerPolicy::Yes, true, input, output.stream());
-    EXPECT_EQ(presenter.runModal(question()), AlertFirstButtonReturn);
-    TerminalAlertPresenter refusing(AnswerPolicy::No, true, input, output.stream());
-    EXPECT_EQ(refusing.runModal(question()), AlertSecondButtonReturn);
+// Without a terminal, or at the end of the input, the --answer option decides and says so.
+TEST(TerminalAlertPresenter, WithoutATerminalOrInputTheAnswerOptionDecides) {
+    for (const bool terminal : {false, true}) {
+        std::istringstream input(terminal ? "x\n" : "1\n");
+        Output yesOutput;
+        TerminalAlertPresenter yes(AnswerPolicy::Yes, terminal, input, yesOutput.stream());
+        EXPECT_EQ(yes.runModal(question()), AlertFirstButtonReturn) << terminal;
+        EXPECT_NE(yesOutput.text().find("(answered \"Yes\" by --answer yes)"), std::string::npos) << terminal;
+        Output noOutput;
+        TerminalAlertPresenter no(AnswerPolicy::No, terminal, input, noOutput.stream());
+        EXPECT_EQ(no.runModal(question()), AlertSecondButtonReturn) << terminal;
+        EXPECT_NE(noOutput.text().find("(answered \"No\" by --answer no)"), std::string::npos) << terminal;
+    }
 }

@@ -1,7 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <csignal>
-#include <unistd.h>
 
 #include <filesystem>
 
@@ -10,38 +7,34 @@
 
 using namespace ComQuorvantVelmar_Plugin;
 
+namespace {
+
+long entriesIn(const std::string& folder) {
+    return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
+}
+
+}  // namespace
+
 TEST(AtomicFile, ReplacesContentAndLeavesNoTemporaryFile) {
     OstrinTest::TemporaryDirectory folder;
     const std::string path = folder.file("favorite");
     OstrinTest::writeFile(path, "old");
     ASSERT_TRUE(AtomicFile::write(path, "new content"));
     EXPECT_EQ(OstrinTest::readFile(path), "new content");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
-                            std::filesystem::directory_iterator()),
-              1);
+    EXPECT_EQ(entriesIn(folder.path()), 1);
+    EXPECT_FALSE(AtomicFile::write("/nonexistent-folder/file", "x"));
 }
 
 TEST(AtomicFile, FailedWriteKeepsTheOldFile) {
     OstrinTest::TemporaryDirectory folder;
     const std::string path = folder.file("favorite");
     OstrinTest::writeFile(path, "old");
-    // A file size limit makes the write fail half-way, even for root.
-    struct rlimit saved {};
-    ::getrlimit(RLIMIT_FSIZE, &saved);
-    auto savedHandler = ::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit tight = saved;
-    tight.rlim_cur = 4;
-    ::setrlimit(RLIMIT_FSIZE, &tight);
-    const bool written = AtomicFile::write(path, "new content longer than the limit");
-    ::setrlimit(RLIMIT_FSIZE, &saved);
-    ::signal(SIGXFSZ, savedHandler);
+    bool written = true;
+    {
+        OstrinTest::FileSizeLimit full(4);  // the write fails half-way, even for root
+        written = AtomicFile::write(path, "new content longer than the limit");
+    }
     EXPECT_FALSE(written);
     EXPECT_EQ(OstrinTest::readFile(path), "old");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
-                            std::filesystem::directory_iterator()),
-              1);
-}
-
-TEST(AtomicFile, MissingFolderFails) {
-    EXPECT_FALSE(AtomicFile::write("/nonexistent-folder/file", "x"));
+    EXPECT_EQ(entriesIn(folder.path()), 1);
 }

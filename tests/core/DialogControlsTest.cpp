@@ -7,6 +7,7 @@
 #include "core/ListModel.h"
 #include "core/MaxBytesFormatter.h"
 #include "core/ModalWindow.h"
+#include "core/NoEmptyTextRule.h"
 #include "core/RadioGroupModel.h"
 #include "core/TextFieldModel.h"
 
@@ -88,4 +89,20 @@ TEST(ModalWindow, RunsUntilTheScriptEndsItAndTellsTheObserver) {
     EXPECT_EQ(runner->runCount(), 2);
     ModalWindows::setRunner(nullptr);
     EXPECT_EQ(window.runModal(), 0);
+}
+
+TEST(NoEmptyTextRule, ABlankEditGivesBackTheTextFromBeforeItUnlessThatWasBlank) {
+    NoEmptyTextRule rule;
+    EXPECT_FALSE(rule.endEditing("").restored);
+    rule.beginEditing("Proof run");
+    const auto blank = rule.endEditing(" \t ");
+    EXPECT_EQ(blank.text, "Proof run");
+    EXPECT_TRUE(blank.restored);
+    const auto kept = rule.endEditing(" Final run");
+    EXPECT_EQ(kept.text, " Final run");
+    EXPECT_FALSE(kept.restored);
+    rule.beginEditing("  ");
+    const auto stays = rule.endEditing("");
+    EXPECT_EQ(stays.text, "");
+    EXPECT_FALSE(stays.restored);
 }

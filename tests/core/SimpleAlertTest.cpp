@@ -44,20 +44,18 @@ TEST_F(SimpleAlertTest, TitleAndTextAreLocalisedAndOnlyOkIsOffered) {
     EXPECT_EQ(asked().style, AlertRequest::Style::Warning);
 }
 
-TEST_F(SimpleAlertTest, ExceptionsShowTheirReasonAndObjectsShowAsGiven) {
+TEST_F(SimpleAlertTest, ExceptionsAndObjectsShowAsGivenAndWithoutCataloguesTheKeysAreShown) {
     ExceptionAlert("No", std::runtime_error("disk full"));
+    EXPECT_EQ(asked().messageText, "Nein");
     EXPECT_EQ(asked().informativeText, "disk full");
     EXPECT_EQ(asked().style, AlertRequest::Style::Critical);
     SimpleAlertObject("Yes", "No");
     EXPECT_EQ(asked().messageText, "Ja");
     EXPECT_EQ(asked().informativeText, "No");
-    EXPECT_EQ(_presenter->asked().size(), 2u);
-}
-
-TEST_F(SimpleAlertTest, WithoutCataloguesTheKeysAreShown) {
     SetNSBundleForLocalizedString(nullptr);
     SimpleAlert("Self Resolve Conflict", "Yes");
     EXPECT_EQ(asked().messageText, "Self Resolve Conflict");
     EXPECT_EQ(asked().informativeText, "Yes");
     EXPECT_EQ(asked().buttons, (std::vector<std::string>{"OK"}));
+    EXPECT_EQ(_presenter->asked().size(), 3u);
 }

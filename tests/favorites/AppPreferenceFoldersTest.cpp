@@ -107,20 +107,14 @@ TEST_F(AppPreferenceFolders, WithoutFolderNamesThereIsNoFolder) {
     EXPECT_EQ(lines.front(), "##### fail to retrieve infomations dictionary");
 }
 
-TEST_F(AppPreferenceFolders, ListsOnlyVisiblePlainFavoriteFiles) {
-    preference.favoriteFolderPathArray(true);
-    writeFavorite(favoriteFolder() + "/Plain.pqz");
-    writeFavorite(favoriteFolder() + "/.Hidden.pqz");
-    writeFavorite(favoriteFolder() + "/Upper.PQZ");
+// Listing creates the folder and keeps visible plain ".pqz" files, sorted by name.
+TEST_F(AppPreferenceFolders, ListsOnlyVisiblePlainFavoriteFilesByName) {
+    EXPECT_TRUE(preference.arrayForFavoritePath().empty());
+    ASSERT_TRUE(fs::is_directory(favoriteFolder()));
+    for (const char* name : {"b.pqz", "C.pqz", "a.pqz", ".Hidden.pqz", "Upper.PQZ"})
+        writeFavorite(favoriteFolder() + "/" + name);
     OstrinTest::writeFile(favoriteFolder() + "/notes.txt", "text");
     fs::create_directory(favoriteFolder() + "/Folder.pqz");
-    EXPECT_EQ(preference.arrayForFavoritePath(), std::vector<std::string>{favoriteFolder() + "/Plain.pqz"});
-}
-
-TEST_F(AppPreferenceFolders, ListingCreatesTheFavoritesFolderAndSortsByName) {
-    EXPECT_TRUE(preference.arrayForFavoritePath().empty());
-    EXPECT_TRUE(fs::is_directory(favoriteFolder()));
-    for (const char* name : {"b", "C", "a"}) writeFavorite(favoriteFolder() + "/" + name + ".pqz");
     EXPECT_EQ(preference.arrayForFavoritePath(),
               (std::vector<std::string>{favoriteFolder() + "/C.pqz", favoriteFolder() + "/a.pqz",
                                         favoriteFolder() + "/b.pqz"}));
@@ -175,21 +169,22 @@ TEST_F(AppPreferenceFolders, ProfilePopupListsProfilesAndSelectsByTitle) {
     EXPECT_EQ(popup.indexOfSelectedItem(), 0);
 }
 
-TEST_F(AppPreferenceFolders, ProfileReaderSplitsAtTheFirstEqualsSign) {
-    const std::string path = file("profile.cps");
-    OstrinTest::writeFile(path, "A=1\r\nB=2=3\r\nno equals\r\nC=45");
-    // The last line lacks its carriage return and line feed and so loses "45".
-    const PlistDictionary expected{{"A", "1"}, {"B", "2=3"}, {"C", ""}};
-    EXPECT_EQ(preference.profileDictionaryWithContentsOfFile(path), expected);
-}
-
-TEST_F(AppPreferenceFolders, ProfileReaderFallsBackToCodePage850) {
-    const std::string path = file("latin.cps");
-    OstrinTest::writeFile(path,
-                          "Name=Caf\x82\r\nGr\x94\xe1"
-                          "e=A4\r\n");
-    const PlistDictionary expected{{"Name", "Café"}, {"Größe", "A4"}};
-    EXPECT_EQ(preference.profileDictionaryWithContentsOfFile(path), expected);
+// Lines split at the first "=" lose their last two characters (the carriage return and
+// line feed), so a last line without them loses "45"; text that is no UTF-8 is code page 850.
+TEST_F(AppPreferenceFolders, ProfileReaderSplitsLinesAtTheFirstEqualsSign) {
+    const struct {
+        std::string content;
+        PlistDictionary expected;
+    } cases[] = {
+        {"A=1\r\nB=2=3\r\nno equals\r\nC=45", {{"A", "1"}, {"B", "2=3"}, {"C", ""}}},
+        {"Name=Caf\x82\r\nGr\x94\xe1"
+         "e=A4\r\n",
+         {{"Name", "Café"}, {"Größe", "A4"}}},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::writeFile(file("profile.cps"), probe.content);
+        EXPECT_EQ(preference.profileDictionaryWithContentsOfFile(file("profile.cps")), probe.expected);
+    }
     EXPECT_FALSE(preference.profileDictionaryWithContentsOfFile(file("missing.cps")));
     EXPECT_FALSE(preference.profileDictionaryWithContentsOfFile(""));
 }

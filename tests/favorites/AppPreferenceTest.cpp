@@ -62,7 +62,8 @@ TEST(AppPreference, ShippedBundleNamesItsResources) {
     EXPECT_TRUE(registered.lines.empty());
 }
 
-TEST(AppPreference, AnswersTheEntryOfTheNamedApplication) {
+// The named application's entry, else the entry of the bundle's own name.
+TEST(AppPreference, AnswersTheEntryOfTheNamedApplicationElseOfTheBundle) {
     OstrinTest::TemporaryDirectory folder;
     const PlistValue information(kHostEntries);
     RegisteredBundle registered(makeBundle(folder, {{"CFBundleName", "Plugin"}}, &information));
@@ -72,14 +73,6 @@ TEST(AppPreference, AnswersTheEntryOfTheNamedApplication) {
     EXPECT_EQ(preference.ppdFileNameWithAppName("Hosted"), "Host.ppd");
     EXPECT_EQ(preference._productFolderNameWithAppName("Hosted"), "HostProduct");
     EXPECT_EQ(preference._subFolderNameWithAppName("Hosted"), "HostSub");
-    EXPECT_TRUE(registered.lines.empty());
-}
-
-TEST(AppPreference, WithoutAnApplicationNameTheBundleNameIsUsed) {
-    OstrinTest::TemporaryDirectory folder;
-    const PlistValue information(kHostEntries);
-    RegisteredBundle registered(makeBundle(folder, {{"CFBundleName", "Plugin"}}, &information));
-    auto& preference = AppPreference::sharedInstance();
     EXPECT_EQ(preference.convertTableFileNameWithAppName(), "OwnTable");
     EXPECT_EQ(preference._subFolderNameWithAppName(), "OwnSub");
     // A key the entry lacks is simply not there.
@@ -87,28 +80,24 @@ TEST(AppPreference, WithoutAnApplicationNameTheBundleNameIsUsed) {
     EXPECT_TRUE(registered.lines.empty());
 }
 
-TEST(AppPreference, MissingApplicationEntryIsLoggedAndAnswersNothing) {
+// No entry for the application, no "CFBundleName" (the folder's name does not count), no
+// resource, no bundle.
+TEST(AppPreference, WhateverIsMissingIsLoggedAndAnswersNothing) {
     OstrinTest::TemporaryDirectory folder;
     const PlistValue information(kHostEntries);
-    RegisteredBundle registered(makeBundle(folder, {{"CFBundleName", "Plugin"}}, &information));
-    EXPECT_EQ(AppPreference::sharedInstance().ppdFileNameWithAppName("Stranger"), std::nullopt);
-    EXPECT_EQ(registered.lines, std::vector<std::string>{kFailure});
-}
-
-TEST(AppPreference, MissingBundleNameIsLoggedAndAnswersNothing) {
-    OstrinTest::TemporaryDirectory folder;
-    const PlistValue information(kHostEntries);
-    // The folder is called Plugin.bundle, but only "CFBundleName" names the entry.
-    RegisteredBundle registered(makeBundle(folder, {{"CFBundleIdentifier", "x"}}, &information));
-    EXPECT_EQ(AppPreference::sharedInstance().convertTableFileNameWithAppName(), std::nullopt);
-    EXPECT_EQ(registered.lines, std::vector<std::string>{kFailure});
-}
-
-TEST(AppPreference, MissingResourceOrBundleIsLoggedAndAnswersNothing) {
-    {
-        OstrinTest::TemporaryDirectory folder;
-        RegisteredBundle registered(makeBundle(folder, {{"CFBundleName", "Plugin"}}, nullptr));
-        EXPECT_EQ(AppPreference::sharedInstance().panesTreeFileNameWithAppName(), std::nullopt);
+    const struct {
+        PlistDictionary info;
+        const PlistValue* information;
+        const char* appName;
+    } cases[] = {
+        {{{"CFBundleName", "Plugin"}}, &information, "Stranger"},
+        {{{"CFBundleIdentifier", "x"}}, &information, ""},
+        {{{"CFBundleName", "Plugin"}}, nullptr, ""},
+    };
+    for (const auto& probe : cases) {
+        std::filesystem::remove_all(folder.file("Plugin.bundle"));
+        RegisteredBundle registered(makeBundle(folder, probe.info, probe.information));
+        EXPECT_EQ(AppPreference::sharedInstance().ppdFileNameWithAppName(probe.appName), std::nullopt);
         EXPECT_EQ(registered.lines, std::vector<std::string>{kFailure});
     }
     RegisteredBundle none(nullptr);

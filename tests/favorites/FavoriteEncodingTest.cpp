@@ -24,76 +24,82 @@ std::string writeAndReadBack(const OstrinTest::TemporaryDirectory& folder, const
 
 }  // namespace
 
-TEST(FavoriteEncoding, JapaneseCommentAndValueRoundTrip) {
-    OstrinTest::useProductStrings("ja-JP");
-    OstrinTest::TemporaryDirectory folder;
-    const PlistDictionary options{{"JobName", "見積書\\2024~最終"}, {"NumCopies", "2"}};
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "会議用の両面印刷", options, readBack);
-    // Code page 932 on disk, language code 0, read back as Shift JIS.
-    EXPECT_EQ(bytes.substr(0, 7 + 8), "2\n13\n0\nComment=");
-    EXPECT_NE(bytes.find("\x89\xef\x8b\x63"), std::string::npos);  // 会議
-    EXPECT_EQ(readBack.encoding(), 0);
-    EXPECT_EQ(readBack.comment(), "会議用の両面印刷");
-    EXPECT_EQ(readBack.options(), options);
+// Japanese goes to disk in code page 932 under code 0 and reads back as Shift JIS;
+// simplified Chinese carries its own code 4.
+TEST(FavoriteEncoding, AsianTextRoundTripsUnderItsLanguageCode) {
+    const struct {
+        const char* language;
+        const char* comment;
+        PlistDictionary options;
+        const char* header;
+        std::string commentBytes;
+        int encoding;
+    } cases[] = {
+        {"ja-JP", "会議用の両面印刷", {{"JobName", "見積書\\2024~最終"}, {"NumCopies", "2"}}, "2\n13\n0\n",
+         "\x89\xef\x8b\x63", 0},
+        {"zh-CN", "双面打印", {{"JobName", "报价单"}}, "2\n13\n4\n", "\xcb\xab\xc3\xe6", 4},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::useProductStrings(probe.language);
+        OstrinTest::TemporaryDirectory folder;
+        FavoriteFile readBack;
+        const std::string bytes = writeAndReadBack(folder, probe.comment, probe.options, readBack);
+        EXPECT_EQ(bytes.rfind(probe.header, 0), 0u) << probe.language;
+        EXPECT_NE(bytes.find(probe.commentBytes), std::string::npos) << probe.language;
+        EXPECT_EQ(readBack.encoding(), probe.encoding);
+        EXPECT_EQ(readBack.comment(), probe.comment);
+        EXPECT_EQ(readBack.options(), probe.options);
+    }
 }
 
-TEST(FavoriteEncoding, SimplifiedChineseWritesItsOwnLanguageCode) {
-    OstrinTest::useProductStrings("zh-CN");
-    OstrinTest::TemporaryDirectory folder;
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "双面打印", {{"JobName", "报价单"}}, readBack);
-    EXPECT_EQ(bytes.substr(0, 6), "2\n13\n4");
-    EXPECT_EQ(readBack.encoding(), 4);
-    EXPECT_EQ(readBack.comment(), "双面打印");
-    EXPECT_EQ(readBack.options()->stringFor("JobName"), "报价单");
+TEST(FavoriteEncoding, ReadsEachLanguageCodeInItsEncoding) {
+    const struct {
+        const char* fixture;
+        int version;
+        int encoding;
+        const char* comment;
+        PlistDictionary options;
+    } cases[] = {
+        {"windows-latin.pqz", 2, 3, "Café für Müller – 5 €", {{"JobName", "Façade"}, {"OutputTray", "Tray1"}}},
+        {"euc-jp.pqz", 2, 2, "会議用の両面印刷", {{"JobName", "見積書"}, {"DuplexMode", "DuplexNoTumble"}}},
+        // A version 1 file has no language code and reads as Shift JIS.
+        {"version-1.pqz", 1, -1, "旧版のお気に入り", {{"JobName", "テスト"}}},
+    };
+    for (const auto& probe : cases) {
+        const FavoriteFile favorite(dataPath(std::string("favorites/") + probe.fixture));
+        EXPECT_EQ(favorite.version(), probe.version) << probe.fixture;
+        EXPECT_EQ(favorite.encoding(), probe.encoding) << probe.fixture;
+        EXPECT_EQ(favorite.comment(), probe.comment) << probe.fixture;
+        EXPECT_EQ(favorite.options(), probe.options) << probe.fixture;
+    }
 }
 
-TEST(FavoriteEncoding, ReadsAWindowsLatinFile) {
-    FavoriteFile favorite(dataPath("favorites/windows-latin.pqz"));
-    EXPECT_EQ(favorite.encoding(), 3);
-    EXPECT_EQ(favorite.comment(), "Café für Müller – 5 €");
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"JobName", "Façade"}, {"OutputTray", "Tray1"}}));
-}
-
-TEST(FavoriteEncoding, ReadsAnEucJpFile) {
-    FavoriteFile favorite(dataPath("favorites/euc-jp.pqz"));
-    EXPECT_EQ(favorite.encoding(), 2);
-    EXPECT_EQ(favorite.comment(), "会議用の両面印刷");
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"JobName", "見積書"}, {"DuplexMode", "DuplexNoTumble"}}));
-}
-
-TEST(FavoriteEncoding, VersionOneReadsAsShiftJis) {
-    FavoriteFile favorite(dataPath("favorites/version-1.pqz"));
-    EXPECT_EQ(favorite.version(), 1);
-    EXPECT_EQ(favorite.encoding(), -1);
-    EXPECT_EQ(favorite.comment(), "旧版のお気に入り");
-    EXPECT_EQ(favorite.options()->stringFor("JobName"), "テスト");
-}
-
-TEST(FavoriteEncoding, RomanSystemWritesCodePage850WithCodeZero) {
-    // The file carries code 0 and so reads back as Shift JIS: a German umlaut does not
-    // survive, which is how favorites of a Roman system have always behaved.
-    OstrinTest::useProductStrings("de-DE");
-    OstrinTest::TemporaryDirectory folder;
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "Müller", {{"A", "1"}}, readBack);
-    EXPECT_EQ(bytes, "2\n13\n0\nComment=M\x81ller\nA=1\t\t");
-    EXPECT_NE(readBack.comment(), "Müller");
-    EXPECT_EQ(readBack.options(), (PlistDictionary{{"A", "1"}}));
-}
-
-TEST(FavoriteEncoding, CharactersTheLocalEncodingLacksBecomeQuestionMarks) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    std::vector<std::string> lines;
-    Diagnostics::setObserver([&](std::string_view line) { lines.emplace_back(line); });
-    FavoriteFile readBack;
-    const std::string bytes = writeAndReadBack(folder, "5 €", {{"JobName", "報告"}}, readBack);
-    Diagnostics::setObserver({});
-    EXPECT_EQ(bytes, "2\n13\n0\nComment=5 ?\nJobName=??\t\t");
-    ASSERT_FALSE(lines.empty());
-    EXPECT_NE(lines.back().find("cannot hold"), std::string::npos);
+// A Roman system writes code page 850 under code 0, so the file reads back as Shift JIS and
+// a German umlaut does not survive, as favorites of a Roman system always behaved; what the
+// local encoding lacks becomes "?" and is logged.
+TEST(FavoriteEncoding, RomanSystemWritesCodePage850AndQuestionMarksForWhatItLacks) {
+    const struct {
+        const char* language;
+        const char* comment;
+        PlistDictionary options;
+        std::string bytes;
+        bool logged;
+    } cases[] = {
+        {"de-DE", "Müller", {{"A", "1"}}, "2\n13\n0\nComment=M\x81ller\nA=1\t\t", false},
+        {"en", "5 €", {{"JobName", "報告"}}, "2\n13\n0\nComment=5 ?\nJobName=??\t\t", true},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::useProductStrings(probe.language);
+        OstrinTest::TemporaryDirectory folder;
+        std::vector<std::string> lines;
+        Diagnostics::setObserver([&](std::string_view line) { lines.emplace_back(line); });
+        FavoriteFile readBack;
+        const std::string bytes = writeAndReadBack(folder, probe.comment, probe.options, readBack);
+        Diagnostics::setObserver({});
+        EXPECT_EQ(bytes, probe.bytes) << probe.language;
+        EXPECT_NE(readBack.comment(), probe.comment);
+        EXPECT_EQ(!lines.empty() && lines.back().find("cannot hold") != std::string::npos, probe.logged);
+    }
 }
 
 TEST(FavoriteEncoding, OtherScriptLogsAndWritesShiftJis) {

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <filesystem>
+#include <vector>
 
 #include "FavoriteTestSupport.h"
 #include "TestSupport.h"
@@ -35,162 +34,133 @@ void expectEmpty(const FavoriteFile& favorite) {
 
 }  // namespace
 
-TEST(FavoriteFile, WritesTheLayoutByteForByte) {
+// Each fixture as the writer makes it, and what the reader and the plain functions give back:
+// numbers come back as text, in the order they were written.
+TEST(FavoriteFile, WritesTheLayoutByteForByteAndReadsItBack) {
     OstrinTest::useProductStrings("en");
     OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("Proofs.pqz");
-    EXPECT_TRUE(favoriteWith("Proofs for the client", proofOptions()).writeToFile(path));
-    EXPECT_EQ(OstrinTest::readFile(path), OstrinTest::readFile(dataPath("favorites/saved-layout.pqz")));
-}
-
-TEST(FavoriteFile, WritesAnEmptyCommentLineWithoutComment) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("A.pqz");
-    favoriteWith(std::nullopt, PlistDictionary{{"A", "1"}}).writeToFile(path);
-    EXPECT_EQ(OstrinTest::readFile(path), OstrinTest::readFile(dataPath("favorites/minimal.pqz")));
-}
-
-TEST(FavoriteFile, ReadsBackWhatItWrote) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("Proofs.pqz");
-    favoriteWith("Proofs for the client", proofOptions()).writeToFile(path);
-    FavoriteFile favorite = FavoriteFile::favoriteFileWithContentsOfFile(path);
-    EXPECT_EQ(favorite.version(), 2);
-    EXPECT_EQ(favorite.iotType(), 13);
-    EXPECT_EQ(favorite.encoding(), 0);
-    EXPECT_EQ(favorite.comment(), "Proofs for the client");
-    // Numbers come back as text, in the order they were written.
-    const PlistDictionary expected{
-        {"DuplexMode", "DuplexNoTumble"}, {"NumCopies", "3"}, {"StapleLocation", "SinglePortrait"}};
-    EXPECT_EQ(favorite.options(), expected);
-}
-
-TEST(FavoriteFile, ReadsTheMinimalFile) {
-    FavoriteFile favorite(dataPath("favorites/minimal.pqz"));
-    EXPECT_EQ(favorite.version(), 2);
-    EXPECT_EQ(favorite.comment(), "");
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"A", "1"}}));
-}
-
-TEST(FavoriteFile, ReadsOptionsWithoutACommentLine) {
-    FavoriteFile favorite(dataPath("favorites/no-comment-line.pqz"));
-    EXPECT_FALSE(favorite.comment());
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"DuplexMode", "DuplexNoTumble"}, {"NumCopies", "2"}}));
-}
-
-TEST(FavoriteFile, RefusesAnotherDeviceTypeOrVersion) {
-    expectEmpty(FavoriteFile(dataPath("favorites/other-device.pqz")));
-    expectEmpty(FavoriteFile(dataPath("favorites/version-3.pqz")));
-    expectEmpty(FavoriteFile(dataPath("favorites/version-two-digits.pqz")));
-}
-
-TEST(FavoriteFile, RefusesAFileWithoutOptions) {
-    expectEmpty(FavoriteFile(dataPath("favorites/no-options.pqz")));
-    EXPECT_FALSE(FavoriteCommentWithContentsOfFile(dataPath("favorites/no-options.pqz")));
-}
-
-TEST(FavoriteFile, MissingEmptyOrFolderPathGivesAnEmptyFavorite) {
-    OstrinTest::TemporaryDirectory folder;
-    expectEmpty(FavoriteFile(folder.file("missing.pqz")));
-    expectEmpty(FavoriteFile(""));
-    std::filesystem::create_directory(folder.file("folder.pqz"));
-    expectEmpty(FavoriteFile(folder.file("folder.pqz")));
-}
-
-TEST(FavoriteFile, RefusesHeadersThatAreNotOneDigit) {
-    OstrinTest::TemporaryDirectory folder;
-    for (const char* content : {"", "2", "x\n13\n0\nA=1\t\t", "2\n130\n0\nA=1\t\t", "2\n13\n00\nA=1\t\t",
-                                "2\n13\nja\nA=1\t\t", "2\n\n0\nA=1\t\t"}) {
-        OstrinTest::writeFile(folder.file("bad.pqz"), content);
-        expectEmpty(FavoriteFile(folder.file("bad.pqz")));
+    const struct {
+        std::optional<std::string> comment;
+        PlistDictionary options;
+        const char* fixture;
+        PlistDictionary read;
+    } cases[] = {
+        {"Proofs for the client", proofOptions(), "saved-layout.pqz",
+         {{"DuplexMode", "DuplexNoTumble"}, {"NumCopies", "3"}, {"StapleLocation", "SinglePortrait"}}},
+        {std::nullopt, {{"A", "1"}}, "minimal.pqz", {{"A", "1"}}},
+    };
+    for (const auto& probe : cases) {
+        const std::string path = folder.file(probe.fixture);
+        EXPECT_TRUE(favoriteWith(probe.comment, probe.options).writeToFile(path));
+        EXPECT_EQ(OstrinTest::readFile(path), OstrinTest::readFile(dataPath(std::string("favorites/") + probe.fixture)));
+        const FavoriteFile favorite = FavoriteFile::favoriteFileWithContentsOfFile(path);
+        EXPECT_EQ(favorite.version(), 2);
+        EXPECT_EQ(favorite.iotType(), 13);
+        EXPECT_EQ(favorite.encoding(), 0);
+        EXPECT_EQ(favorite.comment(), probe.comment.value_or(""));
+        EXPECT_EQ(favorite.options(), probe.read);
+        EXPECT_EQ(FavoriteCommentWithContentsOfFile(path), probe.comment.value_or(""));
+        EXPECT_EQ(FavoriteDictionaryWithContentsOfFile(path), probe.read);
     }
 }
 
-TEST(FavoriteFile, CommentOfTheLimitKeepsTheOptionsApart) {
-    FavoriteFile favorite(dataPath("favorites/comment-at-limit.pqz"));
-    EXPECT_EQ(favorite.comment(), std::string(255, 'c'));
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"A", "1"}}));
-}
-
-TEST(FavoriteFile, LongerCommentIsCutAndItsRestReadAsOptionText) {
-    FavoriteFile favorite(dataPath("favorites/long-comment.pqz"));
-    EXPECT_EQ(favorite.comment(), std::string(255, 'c'));
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{std::string(45, 'c') + "\nA", "1"}}));
-}
-
-TEST(FavoriteFile, LongKeysAndValuesAreCutAtTheirLimits) {
+// Another device type or version, a header that is not one digit, no options, no file.
+TEST(FavoriteFile, RefusedFilesGiveAnEmptyFavorite) {
     OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("long.pqz");
-    OstrinTest::writeFile(path, "2\n13\n0\nComment=\nK=" + std::string(600, 'v') + "\t\tB=2\t\t");
-    // The value is cut after 512 bytes, the tab skip takes one more, and the rest of the
-    // value runs into the next key.
-    const PlistDictionary expected{{"K", std::string(512, 'v')}, {std::string(87, 'v') + "\t\tB", "2"}};
-    EXPECT_EQ(FavoriteFile(path).options(), expected);
+    std::vector<std::string> paths{"", folder.file("missing.pqz"), folder.file("folder.pqz")};
+    std::filesystem::create_directory(folder.file("folder.pqz"));
+    for (const char* fixture : {"other-device.pqz", "version-3.pqz", "version-two-digits.pqz", "no-options.pqz"})
+        paths.push_back(dataPath(std::string("favorites/") + fixture));
+    int index = 0;
+    for (const char* content : {"", "2", "x\n13\n0\nA=1\t\t", "2\n130\n0\nA=1\t\t", "2\n13\n00\nA=1\t\t",
+                                "2\n13\nja\nA=1\t\t", "2\n\n0\nA=1\t\t"}) {
+        paths.push_back(folder.file("bad" + std::to_string(index++) + ".pqz"));
+        OstrinTest::writeFile(paths.back(), content);
+    }
+    for (const std::string& path : paths) {
+        SCOPED_TRACE(path);
+        expectEmpty(FavoriteFile(path));
+        EXPECT_FALSE(FavoriteCommentWithContentsOfFile(path));
+        EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(path));
+    }
+    EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(std::nullopt));
 }
 
-TEST(FavoriteFile, LastOptionWithoutTabsAndKeyWithoutValue) {
+// A token ends at its delimiter, at the end of the file or after its byte limit; what is
+// left of a cut token runs into the next one.
+TEST(FavoriteFile, TokensEndAtTheirDelimiterTheFileEndOrTheirLimit) {
     OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("cut.pqz");
-    OstrinTest::writeFile(path, "2\n13\n0\nComment=x\nA=1\t\tB=2");
-    EXPECT_EQ(FavoriteFile(path).options(), (PlistDictionary{{"A", "1"}, {"B", "2"}}));
-    OstrinTest::writeFile(path, "2\n13\n0\nComment=x\nA=1\t\tB");
-    EXPECT_EQ(FavoriteFile(path).options(), (PlistDictionary{{"A", "1"}}));
+    const std::string comment255(255, 'c');
+    const struct {
+        std::string file;
+        std::optional<std::string> comment;
+        PlistDictionary options;
+    } cases[] = {
+        {dataPath("favorites/no-comment-line.pqz"), std::nullopt,
+         {{"DuplexMode", "DuplexNoTumble"}, {"NumCopies", "2"}}},
+        {dataPath("favorites/comment-at-limit.pqz"), comment255, {{"A", "1"}}},
+        {dataPath("favorites/long-comment.pqz"), comment255, {{std::string(45, 'c') + "\nA", "1"}}},
+        // The value is cut after 512 bytes, the tab skip takes one more.
+        {"2\n13\n0\nComment=\nK=" + std::string(600, 'v') + "\t\tB=2\t\t", "",
+         {{"K", std::string(512, 'v')}, {std::string(87, 'v') + "\t\tB", "2"}}},
+        {"2\n13\n0\nComment=x\nA=1\t\tB=2", "x", {{"A", "1"}, {"B", "2"}}},
+        {"2\n13\n0\nComment=x\nA=1\t\tB", "x", {{"A", "1"}}},
+    };
+    for (const auto& probe : cases) {
+        std::string path = probe.file;
+        if (path.rfind("2\n", 0) == 0) {
+            path = folder.file("written.pqz");
+            OstrinTest::writeFile(path, probe.file);
+        }
+        const FavoriteFile favorite(path);
+        EXPECT_EQ(favorite.comment(), probe.comment) << path;
+        EXPECT_EQ(favorite.options(), probe.options) << path;
+    }
 }
 
-TEST(FavoriteFile, WriterKeepsEveryOptionWhenTextHoldsDelimiters) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("delimiters.pqz");
-    favoriteWith("two\nlines", PlistDictionary{{"JobName", "a\tb"}, {"NumCopies", "2"}}).writeToFile(path);
-    FavoriteFile favorite(path);
-    EXPECT_EQ(favorite.comment(), "two lines");
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"JobName", "a b"}, {"NumCopies", "2"}}));
+// Delimiters in the text become blanks so that no option is lost; a comment over the limit
+// is shortened by whole characters.
+TEST(FavoriteFile, WriterFoldsTextTheLayoutCannotHold) {
+    std::string japanese;
+    for (int i = 0; i < 200; ++i) japanese += "あ";
+    const struct {
+        const char* language;
+        std::string comment;
+        PlistDictionary options;
+        std::string readComment;
+        PlistDictionary readOptions;
+    } cases[] = {
+        {"en", "two\nlines", {{"JobName", "a\tb"}, {"NumCopies", "2"}}, "two lines",
+         {{"JobName", "a b"}, {"NumCopies", "2"}}},
+        {"ja", japanese, {{"A", "1"}}, japanese.substr(0, 127 * 3), {{"A", "1"}}},
+    };
+    for (const auto& probe : cases) {
+        OstrinTest::useProductStrings(probe.language);
+        OstrinTest::TemporaryDirectory folder;
+        const std::string path = folder.file("written.pqz");
+        favoriteWith(probe.comment, probe.options).writeToFile(path);
+        const FavoriteFile favorite(path);
+        EXPECT_EQ(favorite.comment(), probe.readComment) << probe.language;
+        EXPECT_EQ(favorite.options(), probe.readOptions) << probe.language;
+    }
 }
 
-TEST(FavoriteFile, WriterAnswersTrueEvenWhenItCannotWrite) {
+// The save dialogs never test the answer, and a favorite they could not read must not
+// replace the file it came from.
+TEST(FavoriteFile, WriterAnswersTrueAndNeverPutsAFavoriteWithoutOptionsOverAFile) {
     OstrinTest::useProductStrings("en");
     EXPECT_TRUE(favoriteWith("x", proofOptions()).writeToFile(""));
     EXPECT_TRUE(favoriteWith("x", proofOptions()).writeToFile("/nonexistent-folder/x.pqz"));
     EXPECT_FALSE(std::filesystem::exists("/nonexistent-folder/x.pqz"));
-}
-
-TEST(FavoriteFile, FavoriteWithoutOptionsNeverReplacesAFile) {
-    OstrinTest::useProductStrings("en");
     OstrinTest::TemporaryDirectory folder;
     const std::string path = folder.file("Proofs.pqz");
     favoriteWith("first", PlistDictionary{{"A", "1"}}).writeToFile(path);
     const std::string before = OstrinTest::readFile(path);
-    // As the favorites window does with a file it could not read: set a comment, save.
     FavoriteFile unreadable(folder.file("missing.pqz"));
     unreadable.setComment("new comment");
     EXPECT_TRUE(unreadable.writeToFile(path));
     EXPECT_TRUE(favoriteWith("x", PlistDictionary{}).writeToFile(path));
     EXPECT_EQ(OstrinTest::readFile(path), before);
-}
-
-TEST(FavoriteFile, WriteFailingHalfWayLeavesThePreviousFile) {
-    OstrinTest::useProductStrings("en");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("Proofs.pqz");
-    favoriteWith("first", PlistDictionary{{"A", "1"}}).writeToFile(path);
-    const std::string before = OstrinTest::readFile(path);
-    struct rlimit saved {};
-    ::getrlimit(RLIMIT_FSIZE, &saved);
-    auto savedHandler = ::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit tight = saved;
-    tight.rlim_cur = 10;
-    ::setrlimit(RLIMIT_FSIZE, &tight);
-    const bool answered = favoriteWith("second, much longer", proofOptions()).writeToFile(path);
-    ::setrlimit(RLIMIT_FSIZE, &saved);
-    ::signal(SIGXFSZ, savedHandler);
-    EXPECT_TRUE(answered);
-    EXPECT_EQ(OstrinTest::readFile(path), before);
-    EXPECT_EQ(FavoriteFile(path).comment(), "first");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
-                            std::filesystem::directory_iterator()),
-              1);
 }
 
 TEST(FavoriteFile, NamesAndPaths) {
@@ -207,28 +177,4 @@ TEST(FavoriteFile, NamesAndPaths) {
     EXPECT_EQ(FavoriteNameAppendingClassic("Proofs"), "Proofs (Classic)");
     EXPECT_EQ(FavoriteNameWithPath("/f/Proofs.pqz"), "Proofs");
     EXPECT_FALSE(FavoriteNameWithPath(std::nullopt));
-}
-
-TEST(FavoriteFile, PlainFunctionsReadCommentAndOptions) {
-    EXPECT_EQ(FavoriteCommentWithContentsOfFile(dataPath("favorites/saved-layout.pqz")),
-              "Proofs for the client");
-    auto options = FavoriteDictionaryWithContentsOfFile(dataPath("favorites/saved-layout.pqz"));
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->stringFor("NumCopies"), "3");
-    EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(dataPath("favorites/other-device.pqz")));
-    EXPECT_FALSE(FavoriteDictionaryWithContentsOfFile(std::nullopt));
-}
-
-TEST(FavoriteFile, WriterShortensAnOverlongCommentByWholeCharacters) {
-    OstrinTest::useProductStrings("ja");
-    OstrinTest::TemporaryDirectory folder;
-    const std::string path = folder.file("long.pqz");
-    std::string comment;
-    for (int i = 0; i < 200; ++i) comment += "あ";
-    favoriteWith(comment, PlistDictionary{{"A", "1"}}).writeToFile(path);
-    FavoriteFile favorite(path);
-    std::string expected;
-    for (int i = 0; i < 127; ++i) expected += "あ";
-    EXPECT_EQ(favorite.comment(), expected);
-    EXPECT_EQ(favorite.options(), (PlistDictionary{{"A", "1"}}));
 }

@@ -15,24 +15,17 @@ const std::string invalidName =
 
 }  // namespace
 
-TEST(FavoriteItem, AcceptsNamesUpToTwentySevenBytes) {
+// Up to 27 bytes (nine Japanese characters, not ten), not blank, none of / \ : * ? " < > |.
+TEST(FavoriteItem, NamesHaveUpToTwentySevenBytesAndNoForbiddenCharacters) {
     OstrinTest::useProductStrings("en");
-    EXPECT_FALSE(FavoriteItem::checkName(std::string(27, 'n')));
-    EXPECT_EQ(FavoriteItem::checkName(std::string(28, 'n')), invalidName);
-    // Nine Japanese characters are 27 bytes, ten are 30.
-    EXPECT_FALSE(FavoriteItem::checkName("両面印刷の会議資料"));
-    EXPECT_TRUE(FavoriteItem::checkName("両面印刷の会議資料集"));
     EXPECT_FALSE(FavoriteItem::checkName(std::nullopt));
-}
-
-TEST(FavoriteItem, RefusesEmptyBlankAndForbiddenCharacters) {
-    OstrinTest::useProductStrings("en");
-    EXPECT_EQ(FavoriteItem::checkName(""), invalidName);
-    EXPECT_EQ(FavoriteItem::checkName("   "), invalidName);
-    EXPECT_EQ(FavoriteItem::checkName("\t\u3000"), invalidName);
-    for (const char* name : {"a/b", "a:b", "a\\b", "what?", "a|b", "\"q\"", "<x>", "a*"})
+    for (const std::string& name : {std::string(27, 'n'), std::string("両面印刷の会議資料"), std::string(" Proofs 2 ")})
+        EXPECT_FALSE(FavoriteItem::checkName(name)) << name;
+    for (const std::string& name : {std::string(28, 'n'), std::string("両面印刷の会議資料集"), std::string(),
+                                   std::string("   "), std::string("\t\u3000"), std::string("a/b"),
+                                   std::string("a:b"), std::string("a\\b"), std::string("what?"), std::string("a|b"),
+                                   std::string("\"q\""), std::string("<x>"), std::string("a*")})
         EXPECT_EQ(FavoriteItem::checkName(name), invalidName) << name;
-    EXPECT_FALSE(FavoriteItem::checkName(" Proofs 2 "));
 }
 
 TEST(FavoriteItem, DefaultFavoriteNameIsReservedInEachLanguage) {
@@ -57,6 +50,8 @@ TEST(FavoriteItem, CommentsUpTo255Bytes) {
     EXPECT_TRUE(FavoriteItem::checkComment(std::string(253, 'c') + "あ"));
 }
 
+// Current settings, then the defaults, then by path when both have one, else by name, in
+// plain character order (capitals before small letters).
 TEST(FavoriteItem, SortsSpecialEntriesFirstThenByPathOrName) {
     OstrinTest::useProductStrings("en");
     std::vector<FavoriteItem> items{FavoriteItem("b"), FavoriteItem(FavoriteItem::defaultFavoriteName()),
@@ -65,9 +60,6 @@ TEST(FavoriteItem, SortsSpecialEntriesFirstThenByPathOrName) {
     std::vector<std::string> names;
     for (const auto& item : items) names.push_back(item.name());
     EXPECT_EQ(names, (std::vector<std::string>{"<Current Settings>", "Default Settings", "a", "b"}));
-}
-
-TEST(FavoriteItem, PathsDecideOverNamesWhenBothHaveOne) {
     FavoriteItem zeta("Zeta");
     zeta.setPath("/f/A.pqz");
     FavoriteItem alpha("Alpha");
@@ -75,7 +67,6 @@ TEST(FavoriteItem, PathsDecideOverNamesWhenBothHaveOne) {
     EXPECT_TRUE(zeta.compare(alpha) < 0);
     alpha.setPath("");
     EXPECT_TRUE(alpha.compare(zeta) < 0);
-    // Plain character order: capitals before small letters.
     EXPECT_TRUE(FavoriteItem("Z").compare(FavoriteItem("a")) < 0);
     EXPECT_TRUE(FavoriteItem("a").compare(FavoriteItem("a")) == 0);
 }

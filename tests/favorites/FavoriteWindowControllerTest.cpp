@@ -116,7 +116,7 @@ TEST_F(FavoriteManager, TheSummaryTreeShowsTheSelectedRowsSettingsAndTheProfile)
     EXPECT_EQ(tree.profileDictionary(), (PlistDictionary{{"Gamma", "2.2"}}));
 }
 
-TEST_F(FavoriteManager, MouseSelectionIsRefusedWhileTheRowDuplicatesAName) {
+TEST_F(FavoriteManager, MouseSelectionIsRefusedWhileTheRowDuplicatesANameOrAFile) {
     open();
     controller.selectRow(rowNamed("Beta"));
     controller.nameField().typeText("Alpha");
@@ -135,10 +135,9 @@ TEST_F(FavoriteManager, MouseSelectionIsRefusedWhileTheRowDuplicatesAName) {
     controller.commentField().typeText("proofs only");
     EXPECT_TRUE(controller.selectRowWithMouse(0));
     EXPECT_EQ(controller.favoriteItems()[static_cast<std::size_t>(rowNamed("Beta"))].comment(), "proofs only");
-}
 
-TEST_F(FavoriteManager, AFileOfTheNameInTheFolderIsADuplicateToo) {
-    open();
+    // A file of the name in the folder is a duplicate too; the program's own selection
+    // change passes unchecked and leaves the edit behind.
     controller.selectRow(rowNamed("Gamma"));
     controller.nameField().typeText("Delta");
     writeFavorite(favorite("Delta"), "", {{"JB_DUPLEX", "1"}});
@@ -219,28 +218,23 @@ TEST_F(FavoriteManager, CancelLeavesEveryFileAsItWas) {
     EXPECT_FALSE(fs::exists(trashFolder()));
 }
 
-TEST_F(FavoriteManager, ImportRefusesAFileOfAnotherDeviceType) {
+// A file of another device type, or of a name the list has, stays out of the list.
+TEST_F(FavoriteManager, ImportRefusesAnotherDeviceTypeAndANameTheListHas) {
     fs::create_directories(file("elsewhere"));
     OstrinTest::writeFile(file("elsewhere/Other.pqz"), "2\n3\n0\nComment=\nA=1\t\t");
-    files->queue(file("elsewhere/Other.pqz"));
-    open();
-    controller.clickedImport();
-    ASSERT_EQ(files->asked().size(), 1u);
-    EXPECT_EQ(files->asked()[0].kind, FileChooserRequest::Kind::Open);
-    EXPECT_EQ(files->asked()[0].directory, favoriteFolder());
-    ASSERT_EQ(alerts->asked().size(), 1u);
-    EXPECT_EQ(alerts->asked()[0].messageText, "The file could not be loaded as a favorite of this printer.");
-    EXPECT_EQ(rows().size(), 5u);
-}
-
-TEST_F(FavoriteManager, ImportRefusesANameTheListHas) {
     writeFavorite(file("elsewhere/Beta.pqz"), "", {{"JB_DUPLEX", "1"}});
+    files->queue(file("elsewhere/Other.pqz"));
     files->queue(file("elsewhere/Beta.pqz"));
     open();
     controller.selectRow(rowNamed("Alpha"));
     controller.clickedImport();
-    ASSERT_EQ(alerts->asked().size(), 1u);
-    EXPECT_EQ(alerts->asked()[0].messageText, "A favorite with this name already exists. Please choose another name.");
+    controller.clickedImport();
+    ASSERT_EQ(files->asked().size(), 2u);
+    EXPECT_EQ(files->asked()[0].kind, FileChooserRequest::Kind::Open);
+    EXPECT_EQ(files->asked()[0].directory, favoriteFolder());
+    ASSERT_EQ(alerts->asked().size(), 2u);
+    EXPECT_EQ(alerts->asked()[0].messageText, "The file could not be loaded as a favorite of this printer.");
+    EXPECT_EQ(alerts->asked()[1].messageText, "A favorite with this name already exists. Please choose another name.");
     EXPECT_EQ(rows().size(), 5u);
     EXPECT_EQ(controller.favoriteList().selectedRow(), rowNamed("Alpha"));
 }
@@ -283,18 +277,37 @@ TEST_F(FavoriteManager, DeleteAsksFirstAndKeepsTheFileUntilOk) {
     EXPECT_EQ(alerts->asked().size(), 2u);
 }
 
-TEST_F(FavoriteManager, WithoutADefaultsProviderThePanesGiveTheDefaults) {
+// Through the panes of the product: without a defaults provider the panes give the
+// defaults, in PPD keyword form (crease positions in cep, not millimetres); a favorite that
+// trims the face and keeps the zoom of the defaults ("100" against "100.0") marks the face
+// trim alone in the summary tree and opens its pane.
+TEST_F(FavoriteManager, ThePanesGiveTheDefaultsAndTheTreeMarksWhatDiffersFromThem) {
     PanePlugInMgr::setSharedInstance(nullptr);
     PanePlugInMgr::sharedInstance()->loadPlugIns();
-    runner->queue([](ModalWindow& window) {
-        auto& dialog = dynamic_cast<FavoriteWindowController&>(window);
-        dialog.selectRow(1);
-        // The panes' defaults in PPD keyword form: crease positions in cep, not millimetres.
-        EXPECT_EQ(dialog.settingList().stringFor("CreaseMode"), "Off");
-        EXPECT_EQ(dialog.settingList().stringFor("CreasePosition1"), "154205");
-        EXPECT_EQ(dialog.settingList().stringFor("QZRGBColorCorrect"), "sRGB");
-        dialog.clickedOK();
+    writeFavorite(favorite("Trimmed"), "", {{"FN_FACETRIM", "1"}, {"IM_MAG", "100"}});
+    OutlineViewModel outline;
+    PrintOptionTreeDataSource tree;
+    tree.setOutlineView(&outline, false);
+    controller.setSettingTree(&tree);
+    // The marked rows and the opened panes of the tree as it shows the row named row.
+    auto marksFor = [&](const std::string& row) {
+        controller.selectRow(rowNamed(row));
+        std::vector<std::string> marks;
+        for (const auto& shown : outline.rows()) {
+            const OutlineCell cell = tree.objectValueForItem(shown.item);
+            if (outline.isItemExpanded(shown.item)) marks.push_back("open " + cell.label);
+            if (cell.iconName == "emblem-important") marks.push_back("marked " + cell.label);
+        }
+        return marks;
+    };
+    runner->queue([&](ModalWindow&) {
+        EXPECT_EQ(marksFor("Trimmed"), (std::vector<std::string>{"open Finishing", "marked Face Trim"}));
+        EXPECT_EQ(marksFor("Default Settings"), std::vector<std::string>{});
+        EXPECT_EQ(controller.settingList().stringFor("CreaseMode"), "Off");
+        EXPECT_EQ(controller.settingList().stringFor("CreasePosition1"), "154205");
+        EXPECT_EQ(controller.settingList().stringFor("QZRGBColorCorrect"), "sRGB");
+        controller.clickedOK();
     });
-    EXPECT_TRUE(ShowFavoriteModalDialog(kCurrent));
+    EXPECT_EQ(controller.showAsModalDialog("", kCurrent, nullptr), 1);
     PanePlugInMgr::setSharedInstance(nullptr);
 }

@@ -16,7 +16,7 @@ JobNameWinController& asJobNameDialog(ModalWindow& window) { return dynamic_cast
 
 }  // namespace
 
-TEST_F(JobNameDialog, LoadsWithAutoSelectedAndTheFieldDisabled) {
+TEST_F(JobNameDialog, LoadsWithAutoSelectedAndRestoringAppliesTheRowRule) {
     JobNameWinController controller;
     controller.loadWindow();
     const auto& rows = controller.jobNameRadio().rows();
@@ -33,6 +33,16 @@ TEST_F(JobNameDialog, LoadsWithAutoSelectedAndTheFieldDisabled) {
     EXPECT_EQ(controller.jobName(), "");
     EXPECT_FALSE(controller.jobNameField().isEnabled());
     EXPECT_FALSE(controller.jobNameLabel().isEnabled());
+
+    controller.restoreValues("Input", "Weekly");
+    EXPECT_EQ(controller.jobNameRadio().selectedRow(), 1);
+    EXPECT_EQ(controller.jobName(), "Weekly");
+    EXPECT_TRUE(controller.jobNameField().isEnabled());
+    EXPECT_TRUE(controller.jobNameLabel().isEnabled());
+    controller.restoreValues("Auto", "Weekly");
+    EXPECT_FALSE(controller.jobNameField().isEnabled());
+    controller.restoreValues("Unknown", "");
+    EXPECT_EQ(controller.specificJobName(), "Auto");
 }
 
 TEST_F(JobNameDialog, InputWithAnEmptyNameShowsTheLengthMessageAndStaysOpen) {
@@ -84,6 +94,7 @@ TEST_F(JobNameDialog, OkReplacesTheTextsWithTheTypedNameAndItsEscapedForm) {
     EXPECT_EQ(escaped, "Q3 \\(final\\) \\\\ proof");
 }
 
+// Cancel, and a dialog nobody can show, leave the texts as they were.
 TEST_F(JobNameDialog, CancelLeavesTheTexts) {
     std::string specific = "Input";
     std::string escaped = "Report";
@@ -93,22 +104,11 @@ TEST_F(JobNameDialog, CancelLeavesTheTexts) {
         asJobNameDialog(window).clickedCancel();
     });
     EXPECT_FALSE(ShowJobNameModalDialog(specific, &escaped, name));
+    ModalWindows::setRunner(nullptr);
+    EXPECT_FALSE(ShowJobNameModalDialog(specific, nullptr, name));
     EXPECT_EQ(specific, "Input");
     EXPECT_EQ(escaped, "Report");
     EXPECT_EQ(name, "Report");
-}
-
-TEST_F(JobNameDialog, RestoringSelectsTheRowAndAppliesTheRowRule) {
-    JobNameWinController controller;
-    controller.restoreValues("Input", "Weekly");
-    EXPECT_EQ(controller.jobNameRadio().selectedRow(), 1);
-    EXPECT_EQ(controller.jobName(), "Weekly");
-    EXPECT_TRUE(controller.jobNameField().isEnabled());
-    EXPECT_TRUE(controller.jobNameLabel().isEnabled());
-    controller.restoreValues("Auto", "Weekly");
-    EXPECT_FALSE(controller.jobNameField().isEnabled());
-    controller.restoreValues("Unknown", "");
-    EXPECT_EQ(controller.specificJobName(), "Auto");
 }
 
 TEST_F(JobNameDialog, TheFieldRefusesAName256CharactersLong) {
@@ -121,13 +121,6 @@ TEST_F(JobNameDialog, TheFieldRefusesAName256CharactersLong) {
     runner->queue([](ModalWindow& window) { asJobNameDialog(window).clickedOK(); });
     EXPECT_EQ(controller.showAsModalDialog(), 1);
     EXPECT_TRUE(alerts->asked().empty());
-}
-
-TEST_F(JobNameDialog, NobodyToShowTheDialogMeansCancel) {
-    ModalWindows::setRunner(nullptr);
-    std::string specific = "Auto";
-    std::string name;
-    EXPECT_FALSE(ShowJobNameModalDialog(specific, nullptr, name));
 }
 
 TEST_F(JobNameDialog, WithoutStringsTheKeysAreShown) {

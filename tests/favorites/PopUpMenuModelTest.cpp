@@ -35,17 +35,14 @@ TEST(PopUpMenuModel, SelectionFollowsItsItemThroughInsertAndRemove) {
     EXPECT_EQ(popup.itemAtIndex(2)->title, "Proofs");
     popup.removeItemAtIndex(2);
     EXPECT_EQ(popup.indexOfSelectedItem(), -1);
+    // Indexes out of range select, insert and remove nothing in particular.
     popup.removeItemAtIndex(7);
     EXPECT_EQ(popup.numberOfItems(), 2);
-}
-
-TEST(PopUpMenuModel, OutOfRangeSelectionSelectsNothing) {
-    PopUpMenuModel popup = threeItems();
     popup.selectItemAtIndex(0);
     popup.selectItemAtIndex(5);
     EXPECT_EQ(popup.indexOfSelectedItem(), -1);
     popup.insertItem({"Last", "", "", false}, 99);
-    EXPECT_EQ(popup.itemAtIndex(3)->title, "Last");
+    EXPECT_EQ(popup.itemAtIndex(2)->title, "Last");
     popup.removeAllItems();
     EXPECT_EQ(popup.numberOfItems(), 0);
 }

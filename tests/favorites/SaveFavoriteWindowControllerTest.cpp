@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "DialogTestSupport.h"
 #include "favorites/SaveFavoriteWindowController.h"
@@ -34,36 +35,31 @@ TEST_F(SaveFavoriteDialog, LoadsTitlesAndByteLimits) {
     EXPECT_FALSE(controller.commentField().typeText(std::string(256, 'c')));
 }
 
-TEST_F(SaveFavoriteDialog, TheDefaultFavoritesNameIsRefusedWithTheNameFieldFocused) {
+// Each refusal is said in a sheet, keeps the dialog open and focuses its field; the name
+// is checked before the comment.
+TEST_F(SaveFavoriteDialog, RefusalsKeepTheDialogOpenAndFocusTheOffendingField) {
     SaveFavoriteWindowController controller;
-    bool stillRunning = false;
-    runner->queue([&](ModalWindow& window) {
-        asSaveDialog(window).clickedOK();
-        stillRunning = window.isRunning();
-        EXPECT_EQ(window.firstResponder(), &asSaveDialog(window).nameField());
-        asSaveDialog(window).clickedCancel();
-    });
-    EXPECT_EQ(controller.showAsModalDialog("Default Settings", "my defaults"), 0);
-    EXPECT_TRUE(stillRunning);
-    ASSERT_EQ(alerts->asked().size(), 1u);
-    EXPECT_EQ(alerts->asked()[0].messageText, "This name belongs to the default settings. Please choose another name.");
-}
-
-TEST_F(SaveFavoriteDialog, TheNameIsCheckedBeforeTheComment) {
-    SaveFavoriteWindowController controller;
+    std::vector<bool> stillRunning;
+    std::vector<const TextFieldModel*> focused;
     runner->queue([&](ModalWindow& window) {
         auto& dialog = asSaveDialog(window);
-        dialog.clickedOK();
-        dialog.nameField().typeText("Proofs");
-        dialog.clickedOK();
-        EXPECT_EQ(window.firstResponder(), &dialog.commentField());
+        for (const char* name : {"Default Settings", "a/b", "Proofs"}) {
+            dialog.nameField().setStringValue(name);
+            dialog.clickedOK();
+            stillRunning.push_back(window.isRunning());
+            focused.push_back(window.firstResponder());
+        }
         dialog.commentField().setStringValue("short");
         dialog.clickedOK();
     });
-    EXPECT_EQ(controller.showAsModalDialog("a/b", std::string(256, 'c')), 1);
-    ASSERT_EQ(alerts->asked().size(), 2u);
-    EXPECT_EQ(alerts->asked()[0].messageText.rfind("A favorite name must have 1 to 27 bytes", 0), 0u);
-    EXPECT_EQ(alerts->asked()[1].messageText, "A comment must not be longer than 255 bytes.");
+    EXPECT_EQ(controller.showAsModalDialog("", std::string(256, 'c')), 1);
+    EXPECT_EQ(stillRunning, (std::vector<bool>{true, true, true}));
+    EXPECT_EQ(focused, (std::vector<const TextFieldModel*>{&controller.nameField(), &controller.nameField(),
+                                                           &controller.commentField()}));
+    ASSERT_EQ(alerts->asked().size(), 3u);
+    EXPECT_EQ(alerts->asked()[0].messageText, "This name belongs to the default settings. Please choose another name.");
+    EXPECT_EQ(alerts->asked()[1].messageText.rfind("A favorite name must have 1 to 27 bytes", 0), 0u);
+    EXPECT_EQ(alerts->asked()[2].messageText, "A comment must not be longer than 255 bytes.");
     EXPECT_EQ(controller.name(), "Proofs");
 }
 

@@ -47,26 +47,6 @@ TEST(Trash, MovesTheFileAndWritesItsRecord) {
     EXPECT_EQ(match[1].str(), home.path() + "/favorite/Proofs%20100%25%20%C3%BC.pqz");
 }
 
-TEST(Trash, SecondItemOfTheSameNameGetsANewName) {
-    OstrinTest::TemporaryDirectory home;
-    PrivateDataHome dataHome(home.file("data"));
-    fs::create_directories(home.file("a"));
-    fs::create_directories(home.file("b"));
-    OstrinTest::writeFile(home.file("a/Proofs.pqz"), "first");
-    OstrinTest::writeFile(home.file("b/Proofs.pqz"), "second");
-    const auto first = Trash::moveToTrash(home.file("a/Proofs.pqz"));
-    const auto second = Trash::moveToTrash(home.file("b/Proofs.pqz"));
-    const std::string trash = home.file("data/Trash");
-    ASSERT_TRUE(first && second);
-    EXPECT_EQ(*second, trash + "/files/Proofs.2.pqz");
-    EXPECT_EQ(OstrinTest::readFile(*first), "first");
-    EXPECT_EQ(OstrinTest::readFile(*second), "second");
-    std::smatch match;
-    const std::string record = recordOf(trash, "Proofs.2.pqz");
-    ASSERT_TRUE(std::regex_match(record, match, recordPattern));
-    EXPECT_EQ(match[1].str(), home.path() + "/b/Proofs.pqz");
-}
-
 TEST(Trash, CopiesAcrossFileSystemsAndRemovesTheOriginal) {
     // /dev/shm is a memory file system apart from the temporary folder, so the move cannot
     // be a rename there.
@@ -97,16 +77,30 @@ TEST(Trash, MissingFileIsNotRecorded) {
     EXPECT_FALSE(fs::exists(home.file("data/Trash/info/missing.pqz.trashinfo")));
 }
 
-TEST(Trash, UnrecordedItemInTheTrashIsNeverReplaced) {
+// A name the trash holds, recorded or not (a folder nobody recorded), is never replaced:
+// the item takes the next free name and its own record.
+TEST(Trash, ANameTakenInTheTrashGivesTheItemTheNextName) {
     OstrinTest::TemporaryDirectory home;
     PrivateDataHome dataHome(home.file("data"));
-    fs::create_directories(home.file("data/Trash/files"));
-    // A folder of that name in the trash that was never recorded: the item takes the next name.
-    fs::create_directories(home.file("data/Trash/files/Proofs.pqz"));
-    OstrinTest::writeFile(home.file("Proofs.pqz"), "x");
-    const auto moved = Trash::moveToTrash(home.file("Proofs.pqz"));
-    ASSERT_TRUE(moved);
-    EXPECT_EQ(*moved, home.file("data/Trash/files/Proofs.2.pqz"));
-    EXPECT_TRUE(fs::is_directory(home.file("data/Trash/files/Proofs.pqz")));
-    EXPECT_FALSE(fs::exists(home.file("data/Trash/info/Proofs.pqz.trashinfo")));
+    const std::string trash = home.file("data/Trash");
+    fs::create_directories(trash + "/files/Booklet.pqz");
+    for (const char* folder : {"a", "b"}) {
+        fs::create_directories(home.file(folder));
+        OstrinTest::writeFile(home.file(std::string(folder) + "/Proofs.pqz"), folder);
+        OstrinTest::writeFile(home.file(std::string(folder) + "/Booklet.pqz"), folder);
+    }
+    const auto first = Trash::moveToTrash(home.file("a/Proofs.pqz"));
+    const auto second = Trash::moveToTrash(home.file("b/Proofs.pqz"));
+    const auto booklet = Trash::moveToTrash(home.file("a/Booklet.pqz"));
+    ASSERT_TRUE(first && second && booklet);
+    EXPECT_EQ(*second, trash + "/files/Proofs.2.pqz");
+    EXPECT_EQ(*booklet, trash + "/files/Booklet.2.pqz");
+    EXPECT_EQ(OstrinTest::readFile(*first), "a");
+    EXPECT_EQ(OstrinTest::readFile(*second), "b");
+    EXPECT_TRUE(fs::is_directory(trash + "/files/Booklet.pqz"));
+    EXPECT_FALSE(fs::exists(trash + "/info/Booklet.pqz.trashinfo"));
+    std::smatch match;
+    const std::string record = recordOf(trash, "Proofs.2.pqz");
+    ASSERT_TRUE(std::regex_match(record, match, recordPattern));
+    EXPECT_EQ(match[1].str(), home.path() + "/b/Proofs.pqz");
 }

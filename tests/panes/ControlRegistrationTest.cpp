@@ -71,23 +71,17 @@ TEST(ControlRegistration, SetupGivesEachControlItsDescriptionAndClearsTheKey) {
     EXPECT_EQ(output["Unknown"], controls[3]);
 }
 
-TEST(ControlRegistration, SetupRefusesMissingArguments) {
+TEST(ControlRegistration, SetupRefusesMissingArgumentsAndFindsTheFirstControlOfAKeyword) {
     ManagerScope scope(fixtureBundlePath(), false);
-    PanePlugInMgr::ControlList controls = {markedControl("Deep")};
+    PanePlugInMgr::ControlList controls = {markedControl("Loose"), markedControl("SideModeFront"),
+                                           markedControl("Loose")};
     PanePlugInMgr::ControlDictionary output;
     const PlistDictionary& descriptions = fixtureDescriptions(scope.manager());
     EXPECT_FALSE(PanePlugInMgr::setupVORNUIControls(nullptr, &descriptions, &output, nullptr));
     EXPECT_FALSE(PanePlugInMgr::setupVORNUIControls(&controls, nullptr, &output, nullptr));
     EXPECT_FALSE(PanePlugInMgr::setupVORNUIControls(&controls, &descriptions, nullptr, nullptr));
-    EXPECT_EQ(controls[0]->toolTip(), "Deep");
-}
-
-TEST(ControlRegistration, FindsTheFirstControlOfAMainKeyword) {
-    ManagerScope scope(fixtureBundlePath(), false);
-    PanePlugInMgr::ControlList controls = {markedControl("Loose"), markedControl("SideModeFront"),
-                                           markedControl("Loose")};
-    PanePlugInMgr::ControlDictionary output;
-    PanePlugInMgr::setupVORNUIControls(&controls, &fixtureDescriptions(scope.manager()), &output, nullptr);
+    EXPECT_EQ(controls[0]->toolTip(), "Loose");
+    PanePlugInMgr::setupVORNUIControls(&controls, &descriptions, &output, nullptr);
     EXPECT_EQ(PanePlugInMgr::getVORNUIOneControl(&controls, "Loose"), controls[0]);
     EXPECT_EQ(PanePlugInMgr::getVORNUIOneControl(&controls, "SideModeFront"), controls[1]);
     EXPECT_EQ(PanePlugInMgr::getVORNUIOneControl(&controls, "Missing"), nullptr);

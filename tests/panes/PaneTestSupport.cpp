@@ -43,6 +43,24 @@ std::shared_ptr<PanePlugInInterface> ManagerScope::pane(const std::string& name)
     return nullptr;
 }
 
+TestRecordingPane& ManagerScope::recording(const std::string& name) const {
+    return dynamic_cast<TestRecordingPane&>(*pane(name));
+}
+
+std::shared_ptr<VORNUI> ManagerScope::control(const std::string& name, const std::string& key) const {
+    const auto loaded = pane(name);
+    const auto controls = loaded ? loaded->getListVORNUI() : std::nullopt;
+    for (const auto& each : controls ? *controls : std::vector<std::shared_ptr<VORNUI>>{})
+        if (each->mainKeyword() == key) return each;
+    return nullptr;
+}
+
+std::vector<std::string> popupChoices(const VORNUI& control) {
+    std::vector<std::string> choices;
+    for (const auto& item : control.popupItems()) choices.push_back(item.choice);
+    return choices;
+}
+
 std::string TestRecordingPane::panelName() { return _name; }
 
 std::shared_ptr<ViewNode> TestRecordingPane::panelView() {

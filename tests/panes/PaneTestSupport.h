@@ -9,6 +9,7 @@
 #include "core/Alert.h"
 #include "panes/PanePlugInMgr.h"
 #include "panes/PlainPopUpButton.h"
+#include "settings_ui/VORNUI.h"
 #include "settings_ui/ViewNode.h"
 
 namespace PaneTest {
@@ -19,6 +20,8 @@ using namespace ComQuorvantVelmar_Plugin;
 std::string fixtureBundlePath();
 /// The product's extension bundle assembled in the build tree.
 std::string productBundlePath();
+
+class TestRecordingPane;
 
 /// Registers the bundle at bundlePath as the extension bundle and makes a new manager the
 /// process's one (its panes loaded when loadPanes); afterwards the manager is dropped and
@@ -35,6 +38,10 @@ public:
     std::vector<std::string> paneNames() const;
     /// The controller loaded under name, or nullptr.
     std::shared_ptr<PanePlugInInterface> pane(const std::string& name) const;
+    /// The recording controller loaded under name.
+    TestRecordingPane& recording(const std::string& name) const;
+    /// The setting control of key in the pane loaded under name, or nullptr.
+    std::shared_ptr<VORNUI> control(const std::string& name, const std::string& key) const;
 
 private:
     std::shared_ptr<PanePlugInMgr> _manager;
@@ -99,6 +106,9 @@ public:
 private:
     std::vector<std::string> _lines;
 };
+
+/// The choices of control's pop-up items in order.
+std::vector<std::string> popupChoices(const VORNUI& control);
 
 /// The lines of text split at carriage returns and line feeds, empty lines left out.
 std::vector<std::string> linesOf(const std::string& text);

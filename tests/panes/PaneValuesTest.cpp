@@ -11,10 +11,6 @@ using namespace PaneTest;
 
 namespace {
 
-TestRecordingPane& recording(ManagerScope& scope, const std::string& name) {
-    return dynamic_cast<TestRecordingPane&>(*scope.pane(name));
-}
-
 std::vector<std::string> titles(const PlainPopUpButton& popup) {
     std::vector<std::string> list;
     for (const auto& item : popup.items()) list.push_back(item.title);
@@ -23,19 +19,15 @@ std::vector<std::string> titles(const PlainPopUpButton& popup) {
 
 }  // namespace
 
-TEST(PaneValues, ReadAndWriteBySettingKeyWithTheValueFirst) {
-    ManagerScope scope(fixtureBundlePath());
-    PanePlugInMgr& manager = scope.manager();
-    manager.setStringValue("B", "SideModeBack");
-    EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("B"));
-    EXPECT_EQ(manager.getStringValueFromKey("SideModeFront"), std::optional<std::string>("A"));
-    EXPECT_EQ(manager.getStringValueFromKey("NoSuchSetting"), std::nullopt);
-}
-
-TEST(PaneValues, DefaultsAreTakenOnceWhenFirstAskedFor) {
+// Values are read and written by setting key (the value first); the defaults are taken
+// once, when first asked for.
+TEST(PaneValues, ReadAndWriteBySettingKeyAndTakeTheDefaultsOnce) {
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
     manager.setStringValue("B", "SideModeFront");
+    EXPECT_EQ(manager.getStringValueFromKey("SideModeFront"), std::optional<std::string>("B"));
+    EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("A"));
+    EXPECT_EQ(manager.getStringValueFromKey("NoSuchSetting"), std::nullopt);
     const PlistDictionary defaults = manager.defaultSettings();
     EXPECT_EQ(defaults.stringFor("SideModeFront"), std::optional<std::string>("B"));
     EXPECT_EQ(defaults.stringFor("Deep"), std::optional<std::string>("True"));
@@ -45,26 +37,21 @@ TEST(PaneValues, DefaultsAreTakenOnceWhenFirstAskedFor) {
     EXPECT_EQ(manager.defaultSettings(), defaults);
 }
 
-TEST(PaneValues, GatheringAnswersNothingWhenTheServerSettingsApply) {
+// Gathering answers nothing when the server's settings apply; restoring nothing leaves
+// every setting as it was and asks no pane for anything.
+TEST(PaneValues, GatheringAndRestoringNothing) {
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
     manager.setStringValue("Spot", "SideNameFront");
     EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, true, false, false), std::nullopt);
-    auto gathered = manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
+    const auto gathered = manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
     ASSERT_TRUE(gathered);
     EXPECT_EQ(gathered->stringFor("SideNameFront"), std::optional<std::string>("Spot"));
     EXPECT_EQ(gathered->keys(), (std::vector<std::string>{"Deep", "DeepName", "Loose", "LooseOwn", "SideModeFront",
                                                          "SideNameFront", "SideModeBack", "SideNameBack"}));
-}
-
-TEST(PaneValues, RestoringNothingLeavesEverySettingAsItWas) {
-    ManagerScope scope(fixtureBundlePath());
-    PanePlugInMgr& manager = scope.manager();
-    manager.setStringValue("B", "SideModeFront");
-    const PlistDictionary before = *manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false);
     EXPECT_TRUE(manager.restorePrintOptionValues(nullptr));
-    EXPECT_EQ(*manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), before);
-    EXPECT_EQ(recording(scope, "Page").calls(), (std::vector<std::string>{"initializePanel", "profileUiInformations"}));
+    EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), gathered);
+    EXPECT_EQ(scope.recording("Page").calls(), (std::vector<std::string>{"initializePanel", "profileUiInformations"}));
 }
 
 TEST(PaneValues, RestoringShowsTheValuesAndPreparesThePanesByName) {
@@ -75,27 +62,27 @@ TEST(PaneValues, RestoringShowsTheValuesAndPreparesThePanesByName) {
     EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("B"));
     EXPECT_EQ(manager.getStringValueFromKey("Loose"), std::optional<std::string>("True"));
     EXPECT_EQ(manager.getStringValueFromKey("DeepName"), std::optional<std::string>("Proof"));
-    EXPECT_EQ(recording(scope, "Page").calls(),
+    EXPECT_EQ(scope.recording("Page").calls(),
               (std::vector<std::string>{"initializePanel", "profileUiInformations", "writeAutomaticPapaerTraySelection",
                                         "panelView"}));
-    EXPECT_EQ(recording(scope, "Layout").calls().back(), "panelView");
-    EXPECT_EQ(recording(scope, "Layout").calls().end()[-2], "willShow");
-    EXPECT_EQ(recording(scope, "Other").calls().back(), "panelView");
-    EXPECT_EQ(std::count(recording(scope, "Other").calls().begin(), recording(scope, "Other").calls().end(), "willShow"), 0);
+    EXPECT_EQ(scope.recording("Layout").calls().back(), "panelView");
+    EXPECT_EQ(scope.recording("Layout").calls().end()[-2], "willShow");
+    EXPECT_EQ(scope.recording("Other").calls().back(), "panelView");
+    EXPECT_EQ(std::count(scope.recording("Other").calls().begin(), scope.recording("Other").calls().end(), "willShow"), 0);
 }
 
 TEST(PaneValues, APaneFailingWhileRestoringIsShownAndStopsTheWalk) {
     ManagerScope scope(fixtureBundlePath());
     AlertScript alerts;
-    recording(scope, "Layout").failWillShowWith("layout went wrong");
+    scope.recording("Layout").failWillShowWith("layout went wrong");
     const PlistDictionary printOption = {{"Loose", "True"}};
     EXPECT_TRUE(scope.manager().restorePrintOptionValues(&printOption));
     ASSERT_EQ(alerts.asked().size(), 1u);
     EXPECT_EQ(alerts.asked()[0].informativeText, "layout went wrong");
     EXPECT_EQ(alerts.asked()[0].messageText, "Alert_Exception");  // the fixture has no string tables
     // Layout comes before Other and Page in the table: they were never reached.
-    EXPECT_EQ(recording(scope, "Other").panelViewCount(), 0);
-    EXPECT_EQ(recording(scope, "Page").calls().back(), "profileUiInformations");
+    EXPECT_EQ(scope.recording("Other").panelViewCount(), 0);
+    EXPECT_EQ(scope.recording("Page").calls().back(), "profileUiInformations");
     EXPECT_EQ(scope.manager().getStringValueFromKey("Loose"), std::optional<std::string>("True"));
 }
 
@@ -105,7 +92,7 @@ TEST(PaneValues, ProfileMenusAreNumberedAndNamedFromTheCurrentProfile) {
     OstrinTest::writeFile(path, "Tone2Name=Warm\r\nOther=1=2\r\nno separator\r\n");
     ManagerScope scope(fixtureBundlePath());
     PanePlugInMgr& manager = scope.manager();
-    TestRecordingPane& page = recording(scope, "Page");
+    TestRecordingPane& page = scope.recording("Page");
     EXPECT_EQ(titles(*page.toneMenu()), (std::vector<std::string>{"Tone 1", "Tone 2", "Tone 3"}));
     EXPECT_EQ(representedObjectOfMenuItemForKey(page.toneMenu()->items()[2], "optionKeyword")->stringOr(""), "Tone3");
 
@@ -131,7 +118,7 @@ TEST(PaneValues, EnabledStatesFollowTheServerSetting) {
     auto front = *scope.pane("Sides+Front")->getListVORNUI();
     manager.updateEnabledStates(std::nullopt, true, true, false);
     EXPECT_FALSE(front[0]->isEnabled());
-    EXPECT_EQ(recording(scope, "Other").calls().back(), "updateEnabledStates:server");
+    EXPECT_EQ(scope.recording("Other").calls().back(), "updateEnabledStates:server");
     manager.updateEnabledStates(std::nullopt, true, false, false);
     EXPECT_TRUE(front[0]->isEnabled());
     EXPECT_TRUE(manager._isEnable(std::string("pdf"), false, true, true));
@@ -158,7 +145,7 @@ TEST(PaneValues, RevertingAPaneShowsItsDefaults) {
     manager.revertToDefaultByBundleName("Sides+Back");
     EXPECT_EQ(manager.getStringValueFromKey("SideModeBack"), std::optional<std::string>("A"));
     manager.revertToDefaultByBundleName("Page");
-    EXPECT_EQ(recording(scope, "Page").calls().back(), "revertToDefault");
+    EXPECT_EQ(scope.recording("Page").calls().back(), "revertToDefault");
 }
 
 TEST(PaneValues, HidingAndEnablingListsOfControls) {

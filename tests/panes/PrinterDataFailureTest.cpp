@@ -44,19 +44,6 @@ std::shared_ptr<PpdFileExt> ppdFrom(const OstrinTest::TemporaryDirectory& folder
     return PpdFileExt::initWithContentsOfFile(path);
 }
 
-std::shared_ptr<VORNUI> controlOf(ManagerScope& scope, const std::string& pane, const std::string& key) {
-    const auto controls = scope.pane(pane)->getListVORNUI();
-    for (const auto& control : controls ? *controls : std::vector<std::shared_ptr<VORNUI>>{})
-        if (control->mainKeyword() == key) return control;
-    return nullptr;
-}
-
-std::vector<std::string> choicesOf(const VORNUI& control) {
-    std::vector<std::string> choices;
-    for (const auto& item : control.popupItems()) choices.push_back(item.choice);
-    return choices;
-}
-
 }  // namespace
 
 TEST(PrinterDataFailure, CorruptDataLeavesEveryListEmptyAndThePanesAtTheirDefaults) {
@@ -79,9 +66,9 @@ TEST(PrinterDataFailure, CorruptDataLeavesEveryListEmptyAndThePanesAtTheirDefaul
     EXPECT_NE(errors.find("ERROR: inflate returned -3"), std::string::npos);
 
     EXPECT_EQ(manager.gatherPrintOptionValues(nullptr, std::nullopt, false, false, false), defaults);
-    auto templates = controlOf(scope, "Layout", "ImpositionTemplate");
+    auto templates = scope.control("Layout", "ImpositionTemplate");
     ASSERT_TRUE(templates);
-    EXPECT_EQ(choicesOf(*templates), std::vector<std::string>{""});
+    EXPECT_EQ(popupChoices(*templates), std::vector<std::string>{""});
 }
 
 TEST(PrinterDataFailure, EnormousDataIsCutAtSixteenMegabytesAndIsNoList) {
@@ -111,9 +98,9 @@ TEST(PrinterDataFailure, VeryLongListIsShownWhole) {
     PrinterDataPDEObject printerData(ppd);
     scope.manager().setPDEObject(&printerData);
     scope.manager().willShowAllBundle();
-    auto templates = controlOf(scope, "Layout", "ImpositionTemplate");
+    auto templates = scope.control("Layout", "ImpositionTemplate");
     ASSERT_TRUE(templates);
-    const auto choices = choicesOf(*templates);
+    const auto choices = popupChoices(*templates);
     ASSERT_EQ(choices.size(), Templates + 1u);
     EXPECT_EQ(choices[1], "Template 0.pdf");
     EXPECT_EQ(choices.back(), "Template 19999.pdf");

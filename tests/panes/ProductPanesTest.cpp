@@ -16,8 +16,8 @@ using namespace PaneTest;
 namespace {
 
 const std::vector<std::string> productPanes = {
-    "Color", "ExtraToner", "ExtraTonerSide+Front", "ExtraTonerSide+Back", "Finishing", "Job", "Layout", "Output",
-    "Page",  "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "SpoolOptions"};
+    "Color", "ExtraToner", "ExtraTonerSide+Front", "ExtraTonerSide+Back", "Finishing", "Job", "Layout",
+    "Output", "Page", "PrintPosition+Front", "PrintPosition+Back", "SecurePrint", "SpoolOptions"};
 
 // The main keywords of the UI description's pane sections (the panel and the tray sheets
 // are not panes), read from the section marks of the file.
@@ -36,12 +36,6 @@ std::set<std::string> paneSectionKeys() {
         }
     }
     return keys;
-}
-
-std::vector<std::string> choicesOf(const VORNUI& control) {
-    std::vector<std::string> choices;
-    for (const auto& item : control.popupItems()) choices.push_back(item.choice);
-    return choices;
 }
 
 }  // namespace
@@ -114,18 +108,14 @@ TEST(ProductPanes, ThePanesListThePrintersResourcesBeforeTheyAreShown) {
     manager.setStringValue("Retired.pdf", "ImpositionTemplate");
     manager.willShowAllBundle();
 
-    auto layout = scope.pane("Layout")->getListVORNUI();
-    auto findControl = [](const std::vector<std::shared_ptr<VORNUI>>& list, const std::string& key) {
-        return *std::find_if(list.begin(), list.end(), [&key](const auto& each) { return each->mainKeyword() == key; });
-    };
     // The imposition pane's own code: only the trays the printer reports, around them the
     // automatic choice and the job's tray, a stock and the system setting.
-    const auto trays = choicesOf(*findControl(*layout, "Imposition1stTray"));
+    const auto trays = popupChoices(*scope.control("Layout", "Imposition1stTray"));
     EXPECT_EQ(trays.front(), "TrayAuto");
     EXPECT_EQ(std::vector<std::string>(trays.end() - 3, trays.end()),
               (std::vector<std::string>{"TrayJobSameTray", "TrayStk", "TraySystemSetting"}));
     EXPECT_LT(trays.size(), 18u);
-    const auto templates = choicesOf(*findControl(*layout, "ImpositionTemplate"));
+    const auto templates = popupChoices(*scope.control("Layout", "ImpositionTemplate"));
     ASSERT_GT(templates.size(), 1u);
     EXPECT_EQ(templates[0], "");
     // A template the printer no longer lists stays chosen.
@@ -134,6 +124,5 @@ TEST(ProductPanes, ThePanesListThePrintersResourcesBeforeTheyAreShown) {
     auto listed = manager.getImpositionFileList();
     EXPECT_EQ(templates[1], (*listed->array())[0].array()->front().stringOr(""));
 
-    auto color = scope.pane("Color")->getListVORNUI();
-    EXPECT_GT(choicesOf(*findControl(*color, "RenderingProfileName")).size(), 1u);
+    EXPECT_GT(popupChoices(*scope.control("Color", "RenderingProfileName")).size(), 1u);
 }

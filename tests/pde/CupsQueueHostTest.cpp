@@ -90,28 +90,10 @@ TEST_F(CupsQueueHostTest, OpensWithThePpdTheDeviceUriAndTheSavedOptions) {
     }
 }
 
-TEST_F(CupsQueueHostTest, JobHoldsThePpdChoicesCustomEntriesAndStandardSettings) {
-    std::unique_ptr<CupsQueueHost> host = open();
-    ASSERT_TRUE(host);
-    setPanelChoices(*host);
-    const HostOutcome printed = print(*host, document);
-    ASSERT_EQ(printed.status, HostOutcome::Status::Done) << printed.message;
-
-    auto attributes = client->jobAttributes(printed.jobId);
-    EXPECT_EQ(attributes["job-name"], "Q3");
-    EXPECT_EQ(attributes["QZMediaType"], "Coated");
-    EXPECT_EQ(attributes["StapleMode"], "TopLeftCorner");
-    const std::string storedJobName = attributes[PrintSettingsTicket::customKey("JobName")];
-    EXPECT_EQ(storedJobName, "Q3 report%x2C \"final\" 50%x25 O%x27Neil");
-    EXPECT_EQ(TicketValueEscaping::unescape(storedJobName), JobName);
-    EXPECT_EQ(TicketValueEscaping::unescape(attributes[PrintSettingsTicket::customKey("ProfilePath")]),
-              ProfilePath);
-    EXPECT_EQ(attributes["copies"], "2");
-    EXPECT_EQ(attributes["collate"], "false");
-    EXPECT_EQ(attributes["sides"], "two-sided-long-edge");
-}
-
-TEST_F(CupsQueueHostTest, LpArgumentsGiveTheSameJobAsTheDirectSubmission) {
+// The job holds the PPD choices, the escaped custom entries and the standard settings; the
+// lp arguments of the same settings, raw values of every awkward kind among them, give the
+// same job through a shell.
+TEST_F(CupsQueueHostTest, JobHoldsThePanelsChoicesAndLpArgumentsGiveTheSameJob) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
     setPanelChoices(*host);
@@ -124,18 +106,29 @@ TEST_F(CupsQueueHostTest, LpArgumentsGiveTheSameJobAsTheDirectSubmission) {
 
     const HostOutcome direct = print(*host, document);
     ASSERT_EQ(direct.status, HostOutcome::Status::Done) << direct.message;
+    auto directAttributes = client->jobAttributes(direct.jobId);
+    EXPECT_EQ(directAttributes["job-name"], "Q3");
+    EXPECT_EQ(directAttributes["QZMediaType"], "Coated");
+    EXPECT_EQ(directAttributes["StapleMode"], "TopLeftCorner");
+    const std::string storedJobName = directAttributes[PrintSettingsTicket::customKey("JobName")];
+    EXPECT_EQ(storedJobName, "Q3 report%x2C \"final\" 50%x25 O%x27Neil");
+    EXPECT_EQ(TicketValueEscaping::unescape(storedJobName), JobName);
+    EXPECT_EQ(TicketValueEscaping::unescape(directAttributes[PrintSettingsTicket::customKey("ProfilePath")]),
+              ProfilePath);
+    EXPECT_EQ(directAttributes["copies"], "2");
+    EXPECT_EQ(directAttributes["collate"], "false");
+    EXPECT_EQ(directAttributes["sides"], "two-sided-long-edge");
+    for (const auto& [name, value] : rawValues) EXPECT_EQ(directAttributes[name], value) << name;
+
     const auto arguments = LpOptionQuoting::lpArguments(settings.cupsOptions());
     ASSERT_TRUE(arguments);
     const int throughLp = client->lp("-d press " + *arguments + " " + LpOptionQuoting::shellQuote(document));
     ASSERT_GT(throughLp, 0);
-
-    auto directAttributes = client->jobAttributes(direct.jobId);
     auto lpAttributes = client->jobAttributes(throughLp);
     for (const auto& [name, value] : settings.cupsOptions()) {
         ASSERT_TRUE(directAttributes.count(name)) << name;
         EXPECT_EQ(lpAttributes[name], directAttributes[name]) << name;
     }
-    for (const auto& [name, value] : rawValues) EXPECT_EQ(directAttributes[name], value) << name;
 }
 
 TEST_F(CupsQueueHostTest, SavedOptionsAreWrittenAndReadBack) {
@@ -160,21 +153,25 @@ TEST_F(CupsQueueHostTest, SavedOptionsAreWrittenAndReadBack) {
     EXPECT_EQ(TicketValueEscaping::unescape(attributes[PrintSettingsTicket::customKey("JobName")]), JobName);
 }
 
-TEST_F(CupsQueueHostTest, RemovedAndEmptySettingsAreNotSaved) {
+TEST_F(CupsQueueHostTest, RemovedSettingsAreNotSavedAndEmptyOnesComeBackEmpty) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
     PrintSettingsTicket ticket(*host);
     ticket._customTicketSetString("JobName", JobName);
+    ticket._customTicketSetString("QZSpecificJobName", "Input");
     ASSERT_EQ(save(*host).status, HostOutcome::Status::Done);
 
     ticket._customTicketSetString("JobName", std::nullopt);
     ticket._customTicketSetString("ProfilePath", std::string());
+    ticket._customTicketSetString("QZSpecificJobName", std::string());
     ASSERT_EQ(save(*host).status, HostOutcome::Status::Done);
 
     std::unique_ptr<CupsQueueHost> reopened = open();
     ASSERT_TRUE(reopened);
-    EXPECT_EQ(reopened->printSettings()->value(PrintSettingsTicket::customKey("JobName")), nullptr);
-    EXPECT_EQ(reopened->printSettings()->value(PrintSettingsTicket::customKey("ProfilePath")), nullptr);
+    const PrintSettings& settings = *reopened->printSettings();
+    EXPECT_EQ(settings.value(PrintSettingsTicket::customKey("JobName")), nullptr);
+    EXPECT_EQ(settings.text(PrintSettingsTicket::customKey("ProfilePath")), "");
+    EXPECT_EQ(settings.text(PrintSettingsTicket::customKey("QZSpecificJobName")), "");
 }
 
 // A file size limit makes libcups stop half way through the file, as a full disk would.
@@ -213,17 +210,21 @@ TEST_F(CupsQueueHostTest, AHomeWithoutRoomForSavedOptionsIsReported) {
     EXPECT_EQ(OstrinTest::readFile(server.clientHome() + "/.cups"), "a file where the folder belongs");
 }
 
-TEST_F(CupsQueueHostTest, AnUnknownQueueIsAnInputError) {
+// An unknown queue, an unreadable file, a queue removed after opening: input errors that
+// say which.
+TEST_F(CupsQueueHostTest, UnknownQueuesAndUnreadableFilesAreInputErrors) {
     CupsQueueHost::Opening opening;
     CupsClient::run([&] { opening = CupsQueueHost::open("nosuch"); });
     EXPECT_EQ(opening.host, nullptr);
     EXPECT_EQ(opening.outcome.status, HostOutcome::Status::InputError);
     EXPECT_EQ(opening.outcome.message, "queue nosuch: no such queue");
-}
 
-TEST_F(CupsQueueHostTest, AQueueRemovedAfterOpeningIsAnInputError) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
+    const HostOutcome unreadable = print(*host, folder.file("missing.pdf"));
+    EXPECT_EQ(unreadable.status, HostOutcome::Status::InputError);
+    EXPECT_EQ(unreadable.message, "printing " + folder.file("missing.pdf") + " on press: the file cannot be read");
+
     ASSERT_EQ(OstrinTest::runShell("lpadmin -x press").exitCode, 0);
     const HostOutcome printed = print(*host, document);
     EXPECT_EQ(printed.status, HostOutcome::Status::InputError) << printed.message;
@@ -232,14 +233,6 @@ TEST_F(CupsQueueHostTest, AQueueRemovedAfterOpeningIsAnInputError) {
     EXPECT_EQ(saved.status, HostOutcome::Status::InputError) << saved.message;
     EXPECT_EQ(saved.message, "saving the options of press: no queue named press");
     EXPECT_FALSE(std::filesystem::exists(lpoptionsPath()));
-}
-
-TEST_F(CupsQueueHostTest, AnUnreadableFileIsNotSubmitted) {
-    std::unique_ptr<CupsQueueHost> host = open();
-    ASSERT_TRUE(host);
-    const HostOutcome printed = print(*host, folder.file("missing.pdf"));
-    EXPECT_EQ(printed.status, HostOutcome::Status::InputError);
-    EXPECT_EQ(printed.message, "printing " + folder.file("missing.pdf") + " on press: the file cannot be read");
 }
 
 TEST_F(CupsQueueHostTest, AStoppedCupsdIsUnreachable) {

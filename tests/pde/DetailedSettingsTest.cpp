@@ -14,6 +14,7 @@ DetailedSettingsWinController& window() { return DetailedSettingsWinController::
 
 }  // namespace
 
+// The panes' options join the caller's values, which win; with no panes loaded nothing changes.
 TEST(DetailedSettings, ReformatAddsThePanesOptionsAndKeepsTheCallersValues) {
     PanelScope scope;
     PlistDictionary printOption{{"ColorMode", "Grayscale"}, {"QVNote", "mine"}};
@@ -22,14 +23,11 @@ TEST(DetailedSettings, ReformatAddsThePanesOptionsAndKeepsTheCallersValues) {
     EXPECT_EQ(printOption.stringFor("QVNote"), "mine");
     EXPECT_EQ(printOption.stringFor("MailAddress"), "");
     EXPECT_EQ(printOption.size(), scope.manager().defaultSettings().size() + 2);
-}
 
-TEST(DetailedSettings, ReformatWithNothingGatheredLeavesTheDictionaryAlone) {
-    PanelScope scope;
     PanePlugInMgr::setSharedInstance(std::make_shared<PanePlugInMgr>());
-    PlistDictionary printOption{{"ColorMode", "Grayscale"}};
-    window().reformatPrintOption(printOption);
-    EXPECT_EQ(printOption, (PlistDictionary{{"ColorMode", "Grayscale"}}));
+    PlistDictionary alone{{"ColorMode", "Grayscale"}};
+    window().reformatPrintOption(alone);
+    EXPECT_EQ(alone, (PlistDictionary{{"ColorMode", "Grayscale"}}));
 }
 
 TEST(DetailedSettings, OkWithInconsistentSettingsKeepsTheWindowOpenWithTheGatheredValues) {
@@ -90,12 +88,19 @@ TEST(DetailedSettings, TreeColumnIsWidestForSpanishAndMatchesLanguagesInOrder) {
     EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("de-ES"), 460);
 }
 
-TEST(DetailedSettings, EveryPaneOfTheTreeBecomesATab) {
+TEST(DetailedSettings, EveryPaneOfTheTreeBecomesATabOncePerPaneManager) {
     PanelScope scope;
     window().awakeFromNib();
-    const auto& tabs = window().tabView()->tabs();
+    const auto tabView = window().tabView();
+    const auto& tabs = tabView->tabs();
     ASSERT_FALSE(tabs.empty());
     EXPECT_EQ(tabs.front().identifier, "Page");
+    window().awakeFromNib();
+    EXPECT_EQ(window().tabView(), tabView);
+    PanePlugInMgr::setSharedInstance(nullptr);
+    window().awakeFromNib();
+    ASSERT_EQ(window().tabView()->tabs().size(), tabs.size());
+    EXPECT_NE(window().tabView()->tabs().front().view, tabs.front().view);
     EXPECT_EQ(window().selectedViewStyleTag(), DetailedSettingsWinController::TabStyleTag);
     window().selectViewStyleItem(1);
     EXPECT_TRUE(window().tabView()->isTabless());

@@ -17,46 +17,23 @@ std::unique_ptr<PpdFileExt> openSample() {
 
 }  // namespace
 
-TEST(PpdFileHost, StartsWithThePpdDefaultsMarkedAndNoSettings) {
+// The host starts from the PPD's defaults with no settings; a change marks only a choice the
+// PPD offers and carries it in the print settings.
+TEST(PpdFileHost, PpdChangesMarkOnlyTheChoicesThePpdOffers) {
     std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
     ASSERT_TRUE(host);
     EXPECT_EQ(host->ppd().findMarkedChoice("QZMediaType"), PlistValue("SystemSetting"));
-    EXPECT_TRUE(host->printSettings()->values().empty());
     EXPECT_NE(host->ppdFile(), nullptr);
     EXPECT_EQ(host->deviceUri(), std::nullopt);
     EXPECT_EQ(host->legacyTicket(), nullptr);
     EXPECT_TRUE(host->respondsToWillChangePPDOptionKeyValue());
-}
-
-TEST(PpdFileHost, PpdChangeMarksTheChoiceAndCarriesItInThePrintSettings) {
-    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
-    ASSERT_TRUE(host);
-    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "Recycled"));
-    EXPECT_EQ(host->ppd().findMarkedChoice("QZMediaType"), PlistValue("Recycled"));
-    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "Recycled");
-}
-
-TEST(PpdFileHost, AChoiceMarkedAlreadyIsStillCarriedAndLinkedOptionsStayInStep) {
-    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
-    ASSERT_TRUE(host);
-    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "SystemSetting"));
-    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "SystemSetting");
-    // libcups unmarks the page size when the page region is marked, and back.
-    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
-    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageRegion", "A4"));
-    EXPECT_TRUE(host->ppd().findMarkedChoice("PageSize").isNull());
-    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
-    EXPECT_EQ(host->ppd().findMarkedChoice("PageSize"), PlistValue("A3"));
-    EXPECT_TRUE(host->ppd().findMarkedChoice("PageRegion").isNull());
-}
-
-TEST(PpdFileHost, ChoicesThePpdLacksChangeNothing) {
-    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
-    ASSERT_TRUE(host);
     EXPECT_FALSE(host->willChangePPDOptionKeyValue("QZMediaType", "Cardboard"));
     EXPECT_FALSE(host->willChangePPDOptionKeyValue("NoSuchOption", "On"));
     EXPECT_EQ(host->ppd().findMarkedChoice("QZMediaType"), PlistValue("SystemSetting"));
     EXPECT_TRUE(host->printSettings()->values().empty());
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "Recycled"));
+    EXPECT_EQ(host->ppd().findMarkedChoice("QZMediaType"), PlistValue("Recycled"));
+    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "Recycled");
 }
 
 TEST(PpdFileHost, PrintingAndSavingDefaultsAskForAQueue) {
@@ -123,4 +100,18 @@ TEST(PrintSettings, HoldStringsAndNumbersAndGiveThemAsCupsOptionsInOrder) {
     EXPECT_TRUE(settings.removeValue("copies"));
     EXPECT_FALSE(settings.removeValue("copies"));
     EXPECT_EQ(settings.text("copies"), std::nullopt);
+}
+
+TEST(PpdFileHost, AChoiceMarkedAlreadyIsStillCarriedAndLinkedOptionsStayInStep) {
+    std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
+    ASSERT_TRUE(host);
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("QZMediaType", "SystemSetting"));
+    EXPECT_EQ(host->printSettings()->text("QZMediaType"), "SystemSetting");
+    // libcups unmarks the page size when the page region is marked, and back.
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageRegion", "A4"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageSize").isNull());
+    EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
+    EXPECT_EQ(host->ppd().findMarkedChoice("PageSize"), PlistValue("A3"));
+    EXPECT_TRUE(host->ppd().findMarkedChoice("PageRegion").isNull());
 }

@@ -2,26 +2,30 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <tuple>
 
 #include "TestSupport.h"
 #include "pde/LpOptionQuoting.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 
-TEST(LpOptionQuoting, BlanksQuotesAndBackslashesGoBehindABackslash) {
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("QZMediaType", "Plain"), "QZMediaType=Plain");
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", "a b\tc"), "n=a\\ b\\\tc");
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", "it's \"x\""), "n=it\\'s\\ \\\"x\\\"");
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", "C:\\out"), "n=C:\\\\out");
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", "50%x25,a=b"), "n=50%x25,a=b");
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", ""), "n=");
-}
-
-TEST(LpOptionQuoting, NamesLpCannotCarryAreRefused) {
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("", "x"), std::nullopt);
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("two words", "x"), std::nullopt);
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("a=b", "x"), std::nullopt);
-    EXPECT_EQ(LpOptionQuoting::lpOptionArgument("n", std::string("a\0b", 3)), std::nullopt);
+// Blanks, quotes and backslashes go behind a backslash; a name lp cannot carry (empty,
+// with a blank or "=") and a value with a NUL byte are refused.
+TEST(LpOptionQuoting, EachArgumentEscapesWhatLpWouldParse) {
+    const std::tuple<std::string, std::string, std::optional<std::string>> cases[] = {
+        {"QZMediaType", "Plain", "QZMediaType=Plain"},
+        {"n", "a b\tc", "n=a\\ b\\\tc"},
+        {"n", "it's \"x\"", "n=it\\'s\\ \\\"x\\\""},
+        {"n", "C:\\out", "n=C:\\\\out"},
+        {"n", "50%x25,a=b", "n=50%x25,a=b"},
+        {"n", "", "n="},
+        {"", "x", std::nullopt},
+        {"two words", "x", std::nullopt},
+        {"a=b", "x", std::nullopt},
+        {"n", std::string("a\0b", 3), std::nullopt},
+    };
+    for (const auto& [name, value, argument] : cases)
+        EXPECT_EQ(LpOptionQuoting::lpOptionArgument(name, value), argument) << name << "=" << value;
     EXPECT_EQ(LpOptionQuoting::lpArguments({{"good", "1"}, {"bad name", "2"}}), std::nullopt);
 }
 

@@ -1,5 +1,9 @@
 #include "PanelTestSupport.h"
 
+#include <cstdlib>
+
+#include "TestSupport.h"
+
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
 #include "panes/PanePlugInMgr.h"
@@ -8,6 +12,14 @@
 #include "settings_ui/NotifyUnit.h"
 
 namespace PanelTest {
+namespace {
+
+// The panel lists and makes the user's favorites folder: the tests keep theirs private.
+const OstrinTest::TemporaryDirectory privateHome;
+const bool privateFolders = ::setenv("XDG_CONFIG_HOME", privateHome.file("config").c_str(), 1) == 0 &&
+                            ::setenv("XDG_DATA_HOME", privateHome.file("data").c_str(), 1) == 0;
+
+}  // namespace
 
 std::string samplePpdPath() { return std::string(OSTRIN_BUILD_BUNDLE_DIR) + "/Contents/Resources/OstrinFlow.ppd"; }
 

@@ -7,7 +7,6 @@
 #include "pde/PanelButton.h"
 #include "pde/PrintSettings.h"
 #include "pde/PrintSettingsTicket.h"
-#include "pde/TicketValueEscaping.h"
 #include "ppd/PpdFileExt.h"
 
 using namespace PanelTest;
@@ -29,24 +28,19 @@ void setCustomEntry(InMemoryPdeHost& host, const std::string& key, const std::st
 
 }  // namespace
 
-TEST(PanelSave, ValidChoiceIsMarkedInThePpdAndClearsTheCustomEntryOfAnEarlierSave) {
+// A choice of the PPD is marked there and clears the custom entry of an earlier save; a
+// value the PPD does not offer rides in the custom entry while the PPD keeps its default.
+TEST(PanelSave, ValidChoicesAreMarkedInThePpdAndOtherValuesRideInTheCustomEntry) {
     PanelScope scope;
     setCustomEntry(scope.host(), "StapleMode", "LeftoverFromAnOlderDriver");
     scope.panel().willShow();
     scope.userChanges("StapleMode", "TopLeftCorner");
+    scope.userChanges("MediaTypeSequence", "7");
 
     EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
     EXPECT_EQ(scope.setting("StapleMode"), "TopLeftCorner");
     EXPECT_EQ(scope.marked("StapleMode"), "TopLeftCorner");
     EXPECT_EQ(scope.storedCustom("StapleMode"), std::nullopt);
-}
-
-TEST(PanelSave, InvalidValueRidesInTheCustomEntryWhileThePpdKeepsTheDefaultChoice) {
-    PanelScope scope;
-    scope.panel().willShow();
-    scope.userChanges("MediaTypeSequence", "7");
-
-    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
     EXPECT_EQ(scope.storedCustom("MediaTypeSequence"), "7");
     EXPECT_EQ(scope.setting("MediaTypeSequence"), "0");
     EXPECT_EQ(scope.marked("MediaTypeSequence"), "0");
@@ -77,31 +71,6 @@ TEST(PanelSave, WritesTheFixedCustomEntriesEscaped) {
     EXPECT_EQ(scope.storedCustom("FavoriteName"), std::nullopt);
 }
 
-TEST(PanelSave, EscapesPercentApostropheAndCommaAndRestoresThemInTheNextDialog) {
-    PanelScope scope;
-    scope.panel().willShow();
-    scope.userChanges("PaperTypeCustomName", "Gloss 50%, O'Neil");
-    ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
-    EXPECT_EQ(scope.storedCustom("PaperTypeCustomName"), "Gloss 50%x25%x2C O%x27Neil");
-
-    scope.reopenPanel();
-    EXPECT_TRUE(scope.panel().restoreValuesAndReturnError());
-    EXPECT_EQ(textOf(scope.panel().printOption(), "PaperTypeCustomName"), "Gloss 50%, O'Neil");
-}
-
-TEST(PanelSave, StoredEscapeTextComesBackAsTheCharacterItStandsFor) {
-    PanelScope scope;
-    scope.panel().willShow();
-    scope.userChanges("PaperTypeCustomName", "a%x27b");
-    ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
-    EXPECT_EQ(scope.storedCustom("PaperTypeCustomName"), "a%x25x27b");
-
-    // "%x25" is decoded first, which leaves "%x27" to become an apostrophe.
-    scope.reopenPanel();
-    scope.panel().restoreValuesAndReturnError();
-    EXPECT_EQ(textOf(scope.panel().printOption(), "PaperTypeCustomName"), "a'b");
-}
-
 TEST(PanelSave, KeptDuplexAgainstMediaTypeConflictFailsTheSaveWithMinus9531) {
     PanelScope scope(Flavour::WithPpdChangeHook, {AlertSecondButtonReturn, AlertSecondButtonReturn});
     scope.host().printSettings()->setValue("sides", "two-sided-long-edge");
@@ -119,22 +88,23 @@ TEST(PanelSave, KeptDuplexAgainstMediaTypeConflictFailsTheSaveWithMinus9531) {
     EXPECT_TRUE(scope.panel().showDetailedSettingsButton()->isEnabled());
 }
 
-TEST(PanelSave, AcceptedConflictResolutionChangesTheMediaTypeAndSaves) {
-    PanelScope scope(Flavour::WithPpdChangeHook, {AlertFirstButtonReturn});
-    scope.host().printSettings()->setValue("sides", "two-sided-short-edge");
-    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", "Labels"));
-
-    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
-    EXPECT_EQ(scope.marked("QZMediaType"), "Plain");
-    EXPECT_EQ(scope.marked("PaperTypeD"), "Plain");
-}
-
-TEST(PanelSave, DuplexNumberWithoutCupsFormPutsNoQuestion) {
-    PanelScope scope(Flavour::WithPpdChangeHook, {AlertSecondButtonReturn});
-    scope.host().printSettings()->setValue("sides", "one-sided");
-    ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", "Transparency"));
-    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
-    EXPECT_TRUE(scope.asked().empty());
+// Taking the question's first button applies its resolution; one-sided printing puts no
+// question at all.
+TEST(PanelSave, AcceptedOrAbsentDuplexConflictLetsTheSaveThrough) {
+    const struct {
+        const char* sides;
+        const char* mediaType;
+        const char* markedAfter;
+        std::size_t questions;
+    } cases[] = {{"two-sided-short-edge", "Labels", "Plain", 1}, {"one-sided", "Transparency", "Transparency", 0}};
+    for (const auto& probe : cases) {
+        PanelScope scope(Flavour::WithPpdChangeHook, {AlertFirstButtonReturn});
+        scope.host().printSettings()->setValue("sides", probe.sides);
+        ASSERT_TRUE(scope.host().willChangePPDOptionKeyValue("QZMediaType", probe.mediaType));
+        EXPECT_TRUE(scope.panel().saveValuesAndReturnError()) << probe.sides;
+        EXPECT_EQ(scope.asked().size(), probe.questions) << probe.sides;
+        EXPECT_EQ(scope.marked("QZMediaType"), probe.markedAfter) << probe.sides;
+    }
 }
 
 TEST(PanelSave, LegacyTicketTakesTheCustomEntriesAndThePpdIsLeftAlone) {
@@ -191,7 +161,9 @@ TEST(PanelRestore, SavedSettingsComeBackInTheNextDialog) {
     scope.userChanges("ColorMode", "Grayscale");
     scope.userChanges("MediaTypeSequence", "7");
     scope.userChanges("PaperColorBypass", "Blue");
+    scope.userChanges("PaperTypeCustomName", "Gloss 50%, O'Neil");
     ASSERT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("PaperTypeCustomName"), "Gloss 50%x25%x2C O%x27Neil");
     const PlistDictionary saved = scope.panel().printOption();
 
     scope.reopenPanel();
@@ -201,6 +173,7 @@ TEST(PanelRestore, SavedSettingsComeBackInTheNextDialog) {
     EXPECT_EQ(textOf(restored, "StapleMode"), "TopLeftCorner");
     EXPECT_EQ(textOf(restored, "SpotColorCorrection"), "False");
     EXPECT_EQ(textOf(restored, "PaperColorBypass"), "Blue");
+    EXPECT_EQ(textOf(restored, "PaperTypeCustomName"), "Gloss 50%, O'Neil");
 }
 
 TEST(PanelSave, DetailedSettingsOkWritesOnlyWhatDiffersFromTheModelBeforeTheWindow) {
@@ -219,4 +192,18 @@ TEST(PanelSave, DetailedSettingsOkWritesOnlyWhatDiffersFromTheModelBeforeTheWind
     EXPECT_EQ(scope.setting("OffsetMode"), "Set");
     EXPECT_EQ(scope.setting("PagePrintOnCenter"), "True");
     EXPECT_EQ(textOf(scope.panel().printOptionOld(), "ColorMode"), "Color");
+}
+
+TEST(PanelSave, UserNameReachesTheJobPrecomposedOnTheFullSaveOnly) {
+    const std::string decomposed = "Mu\xCC\x88ller";
+    const std::string precomposed = "M\xC3\xBCller";
+    PanelScope scope;
+    scope.panel().willShow();
+    scope.panel().printOption().set("UserName", decomposed);
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError());
+    EXPECT_EQ(scope.storedCustom("UserName"), precomposed);
+
+    scope.panel().printOption().set("UserName", decomposed);
+    EXPECT_TRUE(scope.panel().saveValuesAndReturnError_Fast());
+    EXPECT_EQ(scope.storedCustom("UserName"), decomposed);
 }

@@ -101,14 +101,9 @@ TEST(PanelValues, RestoreShowsBothSheetsAndTheBypassSwitch) {
     EXPECT_EQ(manager.getStringValueFromKey("AutoTraySettingToBypass"), "False");
     EXPECT_EQ(manager.getStringValueFromKey("PagePrintOnCenter"), "True");
     EXPECT_TRUE(scope.panel().bypassPaperTraySelectionButton()->isEnabled());
-}
-
-TEST(PanelValues, RestoreWithoutPrintOnCenterTurnsItOff) {
-    PanelScope scope;
-    scope.panel().willShow();
-    scope.userChanges("PagePrintOnCenter", "True");
+    // Without the key, printing on the centre is off.
     scope.panel()._restoreValuesToPane(PlistDictionary{});
-    EXPECT_EQ(scope.manager().getStringValueFromKey("PagePrintOnCenter"), "False");
+    EXPECT_EQ(manager.getStringValueFromKey("PagePrintOnCenter"), "False");
 }
 
 TEST(PanelValues, RestoreWhileShownPushesCopiesAndTrayIntoThePrintSettings) {

@@ -15,14 +15,8 @@ struct StandardSettings : ::testing::Test {
 
 }  // namespace
 
-TEST_F(StandardSettings, ControlKeysNameTheCupsOptions) {
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("NumCopies"), "copies");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("Collate"), "collate");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("DuplexMode"), "sides");
-    EXPECT_EQ(StandardPrintSettings::cupsOptionForKey("Duplex"), std::nullopt);
-}
-
-TEST_F(StandardSettings, CopiesAndCollateAreWrittenAsCupsOptions) {
+// Written as cupsd's words; read back, every word cupsd takes for false is "False".
+TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
     standard.setCopies("3");
     standard.setCollate(false);
     EXPECT_EQ(settings.text("copies"), "3");
@@ -32,16 +26,6 @@ TEST_F(StandardSettings, CopiesAndCollateAreWrittenAsCupsOptions) {
     standard.setCollate(true);
     EXPECT_EQ(settings.text("collate"), "true");
     EXPECT_EQ(standard.getCollate(), "True");
-}
-
-TEST_F(StandardSettings, AJobWithoutThemPrintsOneCollatedOneSidedCopy) {
-    EXPECT_EQ(standard.getCopies(), "1");
-    EXPECT_EQ(standard.getCollate(), "True");
-    EXPECT_EQ(standard.getDuplex(), "None");
-    EXPECT_TRUE(settings.values().empty());
-}
-
-TEST_F(StandardSettings, CollateReadsTheWordsCupsdTakesForFalse) {
     settings.setValue("copies", 4);
     EXPECT_EQ(standard.getCopies(), "4");
     for (const char* word : {"false", "No", "OFF"}) {
@@ -52,15 +36,19 @@ TEST_F(StandardSettings, CollateReadsTheWordsCupsdTakesForFalse) {
     EXPECT_EQ(standard.getCollate(), "True");
 }
 
-TEST_F(StandardSettings, DuplexIsReadFromSides) {
-    settings.setValue("sides", "two-sided-long-edge");
-    EXPECT_EQ(standard.getDuplex(), "DuplexNoTumble");
-    settings.setValue("sides", "two-sided-short-edge");
-    EXPECT_EQ(standard.getDuplex(), "DuplexTumble");
-    settings.setValue("sides", "one-sided");
+// A job without them prints one collated one-sided copy; duplex is read from the sides, and
+// sides cupsd does not know print one-sided.
+TEST_F(StandardSettings, DuplexIsReadFromSidesAndAJobWithoutThemPrintsOneCollatedOneSidedCopy) {
+    EXPECT_EQ(standard.getCopies(), "1");
+    EXPECT_EQ(standard.getCollate(), "True");
     EXPECT_EQ(standard.getDuplex(), "None");
-    settings.setValue("sides", "sideways");
-    EXPECT_EQ(standard.getDuplex(), "None");
+    EXPECT_TRUE(settings.values().empty());
+    for (const auto& [sides, duplex] : {std::pair{"two-sided-long-edge", "DuplexNoTumble"},
+                                        {"two-sided-short-edge", "DuplexTumble"}, {"one-sided", "None"},
+                                        {"sideways", "None"}}) {
+        settings.setValue("sides", sides);
+        EXPECT_EQ(standard.getDuplex(), duplex) << sides;
+    }
 }
 
 TEST_F(StandardSettings, SetDuplexNeverChangesSides) {

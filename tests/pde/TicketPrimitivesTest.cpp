@@ -19,55 +19,46 @@ std::optional<std::string> stored(InMemoryPdeHost& host, const std::string& key)
 
 }  // namespace
 
-TEST(TicketPrimitives, BackEndFollowsWhetherTheHostHasThePpdChangeHook) {
-    InMemoryPdeHost withHook(Flavour::WithPpdChangeHook);
-    InMemoryPdeHost withoutHook(Flavour::WithoutPpdChangeHook);
-    EXPECT_TRUE(PrintSettingsTicket(withHook).useConstraintHandling());
-    EXPECT_FALSE(PrintSettingsTicket(withoutHook).useConstraintHandling());
-}
-
-TEST(TicketPrimitives, PrintSettingsKeepTheEscapedValueAndAnswerItAsStored) {
+// With the host's PPD change hook the print settings are the ticket, else the legacy ticket;
+// the value is stored escaped and answered as stored; the legacy ticket names the panel as
+// its writer.
+TEST(TicketPrimitives, BothBackEndsKeepTheEscapedValueAndAnswerItAsStored) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
+    EXPECT_TRUE(ticket.useConstraintHandling());
     EXPECT_EQ(ticket._ticketSetString("Note", std::string("50%, it's")), 0);
     EXPECT_EQ(stored(host, "Note"), "50%x25%x2C it%x27s");
-
     std::optional<std::string> value;
     EXPECT_EQ(ticket._ticketGetString("Note", value), 0);
     EXPECT_EQ(value, "50%x25%x2C it%x27s");
+
+    InMemoryPdeHost legacyHost(Flavour::WithoutPpdChangeHook);
+    PrintSettingsTicket legacy(legacyHost);
+    EXPECT_FALSE(legacy.useConstraintHandling());
+    EXPECT_EQ(legacy._ticketSetString("Note", std::string("a,b")), 0);
+    EXPECT_EQ(legacyHost.legacyTicket()->string("Note"), "a%x2Cb");
+    EXPECT_EQ(legacyHost.legacyTicket()->clientIdentifier("Note"), "com.quorvant.velmar.print.pde.main");
+    EXPECT_EQ(legacyHost.printSettings()->value("Note"), nullptr);
+    EXPECT_EQ(legacy._ticketGetString("Note", value), 0);
+    EXPECT_EQ(value, "a%x2Cb");
 }
 
-TEST(TicketPrimitives, PrintSettingsSetWithoutValueRemovesTheEntry) {
+// Without a value the print settings drop the entry; the legacy ticket refuses and keeps it.
+TEST(TicketPrimitives, SetWithoutValueRemovesFromThePrintSettingsOnly) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
     ASSERT_EQ(ticket._ticketSetString("Note", std::string("x")), 0);
     EXPECT_EQ(ticket._ticketSetString("Note", std::nullopt), 0);
     EXPECT_EQ(host.printSettings()->value("Note"), nullptr);
-
     std::optional<std::string> value = "left over";
     EXPECT_EQ(ticket._ticketGetString("Note", value), ParamErr);
     EXPECT_EQ(value, std::nullopt);
-}
 
-TEST(TicketPrimitives, LegacyTicketKeepsTheEscapedValueWithThePanelKindAsWriter) {
-    InMemoryPdeHost host(Flavour::WithoutPpdChangeHook);
-    PrintSettingsTicket ticket(host);
-    EXPECT_EQ(ticket._ticketSetString("Note", std::string("a,b")), 0);
-    EXPECT_EQ(host.legacyTicket()->string("Note"), "a%x2Cb");
-    EXPECT_EQ(host.legacyTicket()->clientIdentifier("Note"), "com.quorvant.velmar.print.pde.main");
-    EXPECT_EQ(host.printSettings()->value("Note"), nullptr);
-
-    std::optional<std::string> value;
-    EXPECT_EQ(ticket._ticketGetString("Note", value), 0);
-    EXPECT_EQ(value, "a%x2Cb");
-}
-
-TEST(TicketPrimitives, LegacyTicketSetWithoutValueAnswersParamErrAndKeepsTheEntry) {
-    InMemoryPdeHost host(Flavour::WithoutPpdChangeHook);
-    PrintSettingsTicket ticket(host);
-    ASSERT_EQ(ticket._ticketSetString("Note", std::string("kept")), 0);
-    EXPECT_EQ(ticket._ticketSetString("Note", std::nullopt), ParamErr);
-    EXPECT_EQ(host.legacyTicket()->string("Note"), "kept");
+    InMemoryPdeHost legacyHost(Flavour::WithoutPpdChangeHook);
+    PrintSettingsTicket legacy(legacyHost);
+    ASSERT_EQ(legacy._ticketSetString("Note", std::string("kept")), 0);
+    EXPECT_EQ(legacy._ticketSetString("Note", std::nullopt), ParamErr);
+    EXPECT_EQ(legacyHost.legacyTicket()->string("Note"), "kept");
 }
 
 TEST(TicketPrimitives, MissingPiecesAnswerParamErr) {
@@ -99,25 +90,21 @@ TEST(TicketPrimitives, MissingPiecesAnswerParamErr) {
     EXPECT_EQ(number, 0);
 }
 
+// Custom entries live under the prefixed key; without a key they answer 0 and do nothing.
 TEST(TicketPrimitives, CustomEntriesLiveUnderThePrefixedKey) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
     EXPECT_EQ(ticket._customTicketSetString("JobName", std::string("Report")), 0);
     EXPECT_EQ(stored(host, "com.quorvant.velmar.print.PrintSettingsTicket.JobName"), "Report");
-
     std::optional<std::string> value;
     EXPECT_EQ(ticket._customTicketGetString("JobName", value), 0);
     EXPECT_EQ(value, "Report");
     EXPECT_EQ(ticket._customTicketSetString("JobName", std::nullopt), 0);
     EXPECT_TRUE(host.printSettings()->values().empty());
-}
 
-TEST(TicketPrimitives, CustomEntriesWithoutKeyAnswerZeroAndDoNothing) {
-    InMemoryPdeHost host(Flavour::WithoutPpdChangeHook);
-    PrintSettingsTicket ticket(host);
     EXPECT_EQ(ticket._customTicketSetString("", std::string("x")), 0);
-    EXPECT_EQ(host.legacyTicket()->string("com.quorvant.velmar.print.PrintSettingsTicket."), std::nullopt);
-    std::optional<std::string> value = "untouched";
+    EXPECT_TRUE(host.printSettings()->values().empty());
+    value = "untouched";
     EXPECT_EQ(ticket._customTicketGetString("", value), 0);
     EXPECT_EQ(value, "untouched");
 }
@@ -158,27 +145,21 @@ TEST(TicketPrimitives, DuplexingIsTheNumberOfSidesOnBothBackEnds) {
         host.printSettings()->setValue("sides", "both-ways");
         EXPECT_EQ(ticket._ticketGetSInt32(DuplexingKey, number), ParamErr);
     }
-}
-
-TEST(TicketPrimitives, LegacyDuplexingNumberIsNotReadFromTheTicket) {
+    // The legacy ticket's own duplexing number is never read: the sides decide.
     InMemoryPdeHost host(Flavour::WithoutPpdChangeHook);
     host.legacyTicket()->setSInt32("system", DuplexingKey, 2);
     std::int32_t number = 0;
     EXPECT_EQ(PrintSettingsTicket(host)._ticketGetSInt32(DuplexingKey, number), ParamErr);
 }
 
-TEST(TicketValueEscaping, EscapesPercentFirstThenApostropheThenComma) {
+// "%" goes first, then "'", then ","; decoding goes in the same order, so a stored "%x25x27"
+// comes back as an apostrophe (stored tickets depend on it). Other values come back as they were.
+TEST(TicketValueEscaping, EscapesAndDecodesPercentFirst) {
     EXPECT_EQ(TicketValueEscaping::escape("%',"), "%x25%x27%x2C");
     EXPECT_EQ(TicketValueEscaping::escape("O'Neil, 100%"), "O%x27Neil%x2C 100%x25");
     EXPECT_EQ(TicketValueEscaping::escape("plain text"), "plain text");
-}
-
-TEST(TicketValueEscaping, OrdinaryValuesComeBackUnchanged) {
-    for (const std::string value : {"O'Neil, 100%", "%%,,''", "a%b'c,d", "%x2", "Grüße, 'Ä'", ""})
+    for (const char* value : {"O'Neil, 100%", "%%,,''", "a%b'c,d", "%x2", "Grüße, 'Ä'", ""})
         EXPECT_EQ(TicketValueEscaping::unescape(TicketValueEscaping::escape(value)), value);
-}
-
-TEST(TicketValueEscaping, EscapeTextsInAValueAreDecodedPercentFirst) {
     EXPECT_EQ(TicketValueEscaping::escape("%x27"), "%x25x27");
     EXPECT_EQ(TicketValueEscaping::unescape("%x25x27"), "'");
     EXPECT_EQ(TicketValueEscaping::unescape(TicketValueEscaping::escape("%x2C")), ",");

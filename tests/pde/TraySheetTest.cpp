@@ -45,7 +45,9 @@ struct PostedNames {
 
 }  // namespace
 
-TEST(TraySheet, AutomaticSheetListsTheDescribedSettingsOfThePlainPaperType) {
+// The plain paper type lists its described settings; the tabbed paper type and the weight
+// value take the places of their plain counterparts. The sheet is half as wide as its layout.
+TEST(TraySheet, AutomaticSheetListsTheDescribedSettingsOfItsPaperType) {
     Sheet automatic(productBundle(), false);
     EXPECT_EQ(listedKeys(automatic.sheet),
               (std::vector<std::string>{"MediaTypeCoatingMaterial", "MediaTypeDrilled", "MediaTypeGlossFine",
@@ -53,12 +55,12 @@ TEST(TraySheet, AutomaticSheetListsTheDescribedSettingsOfThePlainPaperType) {
                                         "PaperColorCustomName", "PaperTypeCustomName", "PaperTypeD"}));
     EXPECT_EQ(automatic.sheet.getListVORNUI().at("PaperTypeD")->mainKeyword(), "PaperTypeD");
     EXPECT_EQ(automatic.sheet.windowTitle(), "Automatic Tray Selection");
-}
+    EXPECT_EQ(automatic.sheet.windowFrame().width, VORNUI::defaultWidth + 24);
+    EXPECT_EQ(automatic.sheet.separator()->frame().width, VORNUI::defaultWidth);
 
-TEST(TraySheet, TabbedPaperTypeAndWeightValueReplaceTheirPlainCounterparts) {
-    Sheet automatic(tabbedBundle(), false);
-    EXPECT_EQ(listedKeys(automatic.sheet), (std::vector<std::string>{"MediaTypeWeightValue", "PaperColor",
-                                                                     "PaperColorCustomName", "PaperType_MediaTypeTabbed"}));
+    Sheet tabbed(tabbedBundle(), false);
+    EXPECT_EQ(listedKeys(tabbed.sheet), (std::vector<std::string>{"MediaTypeWeightValue", "PaperColor",
+                                                                  "PaperColorCustomName", "PaperType_MediaTypeTabbed"}));
 }
 
 TEST(TraySheet, BypassSheetListsTheAutomaticWeightControlUnderTheBypassWeightKey) {
@@ -104,12 +106,6 @@ TEST(TraySheet, TypedTextsAlwaysHoldTheTabSequence) {
 
     Sheet bypass(productBundle(), true);
     EXPECT_EQ(bypass.sheet.getTextFieldStringDictionary().keys(), (std::vector<std::string>{"MediaTypeSequenceBypass"}));
-}
-
-TEST(TraySheet, IsShownAtHalfTheWidthItsInterfaceIsLaidOutIn) {
-    Sheet plain(productBundle(), false);
-    EXPECT_EQ(plain.sheet.windowFrame().width, VORNUI::defaultWidth + 24);
-    EXPECT_EQ(plain.sheet.separator()->frame().width, VORNUI::defaultWidth);
 }
 
 TEST(TraySheet, CloseTellsThePanelHidesTheSheetAndEndsTheRun) {

@@ -54,27 +54,17 @@ TEST_F(PrinterData, GrowsTheOutputBeyond2048Bytes) {
     EXPECT_EQ(read("Large"), _large);
 }
 
-TEST_F(PrinterData, MissingFirstChunkOrNameAnswersNothing) {
-    EXPECT_FALSE(read("Late"));
-    EXPECT_FALSE(read("NoSuchData"));
-    EXPECT_FALSE(read(""));
+// The data ends at the first missing or empty chunk; without its first chunk there is none.
+TEST_F(PrinterData, MissingOrEmptyChunksEndTheData) {
+    for (const char* name : {"Late", "NoSuchData", ""}) EXPECT_FALSE(read(name)) << name;
     EXPECT_FALSE(PpdData::ppdxReadData(nullptr, "Rows"));
-    EXPECT_FALSE(PpdData::propertyListForCommand(_ppd->ppdFile(), "Late"));
-}
-
-TEST_F(PrinterData, StopsAtTheFirstMissingChunk) {
-    std::optional<std::string> data = read("Gap");
-    ASSERT_TRUE(data);
-    // Chunks 0000 and 0001 are used, the ones after the gap are not.
-    EXPECT_GT(data->size(), 0u);
-    EXPECT_LT(data->size(), _large.size());
-    EXPECT_EQ(_large.substr(0, data->size()), *data);
-    EXPECT_FALSE(PpdData::propertyListForCommand(_ppd->ppdFile(), "Gap"));
-}
-
-TEST_F(PrinterData, EmptyChunkEndsTheData) {
     EXPECT_EQ(read("Blank"), "");
-    EXPECT_FALSE(PpdData::propertyListForCommand(_ppd->ppdFile(), "Blank"));
+    std::optional<std::string> gap = read("Gap");
+    ASSERT_TRUE(gap);
+    EXPECT_GT(gap->size(), 0u);
+    EXPECT_LT(gap->size(), _large.size());
+    EXPECT_EQ(_large.substr(0, gap->size()), *gap);
+    for (const char* name : {"Late", "Gap", "Blank"}) EXPECT_FALSE(PpdData::propertyListForCommand(_ppd->ppdFile(), name)) << name;
 }
 
 TEST_F(PrinterData, CorruptChunkIsReportedAndTheDataIsNoPropertyList) {

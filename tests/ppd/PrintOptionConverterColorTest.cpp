@@ -2,7 +2,6 @@
 
 #include "PrintOptionTestSupport.h"
 #include "core/PreferredLanguages.h"
-#include "ppd/PrintOptionConverter.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 using namespace ConverterTest;
@@ -24,102 +23,85 @@ PlistDictionary twoColorNames(const char* spotSpot) {
             {"TwoColorPressSimulationYSpotName", "Gold;2,5"}};
 }
 
+const std::initializer_list<const char*> kSpotNames = {
+    "TwoColorPressSimulationSpotSpotName", "TwoColorPressSimulationCSpotName", "TwoColorPressSimulationMSpotName",
+    "TwoColorPressSimulationYSpotName", "TwoColorPressSimulationKSpotName"};
+
 }  // namespace
 
-TEST(PrintOptionConverterColor, OverlayObjectsBecomeBitmasksPerSide) {
+// Photo, text and drawing are bits 4+5, 0+1 and 2+3 of each side's mask; the masks are
+// read back only when both sides are set.
+TEST(PrintOptionConverterColor, OverlayObjectsAndBitmasksConvertBothWays) {
     PlistDictionary printOption{{"SpTonerOverlayObjectFrontPhoto", "True"},
                                 {"SpTonerOverlayObjectFrontText", "False"},
                                 {"SpTonerOverlayObjectFrontDrawing", "True"},
                                 {"SpTonerOverlayObjectBackText", "True"}};
     Converter::convertToCanonicalSpecifiedObject(printOption);
-    EXPECT_EQ(printOption.stringFor("SpTonerOverlayObjectFront", ""), "60");
-    EXPECT_EQ(printOption.stringFor("SpTonerOverlayObjectBack", ""), "3");
-    EXPECT_EQ(printOption.stringFor("SpTonerOverlayObjectFrontPhoto", ""), "True");
+    EXPECT_EQ(valuesOf(printOption, {"SpTonerOverlayObjectFront", "SpTonerOverlayObjectBack"}), (Strings{"60", "3"}));
     EXPECT_EQ(printOption.size(), 6u);
-
     PlistDictionary none;
     Converter::convertToCanonicalSpecifiedObject(none);
     EXPECT_EQ(none, (PlistDictionary{{"SpTonerOverlayObjectFront", "0"}, {"SpTonerOverlayObjectBack", "0"}}));
-}
 
-TEST(PrintOptionConverterColor, BitmasksBecomeOverlayObjectsOnlyWhenBothSidesAreSet) {
-    PlistDictionary printOption{{"SpTonerOverlayObjectFront", "51"}, {"SpTonerOverlayObjectBack", "16"}};
-    Converter::convertToInternalSpecifiedObject(printOption);
-    EXPECT_EQ(printOption, (PlistDictionary{{"SpTonerOverlayObjectFront", "51"},
-                                            {"SpTonerOverlayObjectBack", "16"},
-                                            {"SpTonerOverlayObjectFrontPhoto", "True"},
-                                            {"SpTonerOverlayObjectFrontText", "True"},
-                                            {"SpTonerOverlayObjectFrontDrawing", "False"},
-                                            {"SpTonerOverlayObjectBackPhoto", "False"},
-                                            {"SpTonerOverlayObjectBackText", "False"},
-                                            {"SpTonerOverlayObjectBackDrawing", "False"}}));
-
+    PlistDictionary masks{{"SpTonerOverlayObjectFront", "51"}, {"SpTonerOverlayObjectBack", "16"}};
+    Converter::convertToInternalSpecifiedObject(masks);
+    EXPECT_EQ(valuesOf(masks, {"SpTonerOverlayObjectFrontPhoto", "SpTonerOverlayObjectFrontText",
+                               "SpTonerOverlayObjectFrontDrawing", "SpTonerOverlayObjectBackPhoto",
+                               "SpTonerOverlayObjectBackText", "SpTonerOverlayObjectBackDrawing"}),
+              (Strings{"True", "True", "False", "False", "False", "False"}));
     const PlistDictionary oneSide{{"SpTonerOverlayObjectFront", "63"}, {"SpTonerOverlayObjectBack", ""}};
     PlistDictionary unchanged = oneSide;
     Converter::convertToInternalSpecifiedObject(unchanged);
     EXPECT_EQ(unchanged, oneSide);
 }
 
-TEST(PrintOptionConverterColor, GraphicsTreatmentSplitsIntoBaseAndMode) {
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"JobImage", "Job", "Image"}, {"JobText", "Job", "Text"}, {"System", "System", "Image"},
-        {"Unknown", "System", "Image"}};
-    for (const auto& [treatment, base, mode] : rows) {
+TEST(PrintOptionConverterColor, GraphicsTreatmentSplitsIntoBaseAndModeAndJoinsBack) {
+    const std::tuple<const char*, const char*, const char*> split[] = {
+        {"JobImage", "Job", "Image"}, {"JobText", "Job", "Text"}, {"System", "System", "Image"}, {"Unknown", "System", "Image"}};
+    for (const auto& [treatment, base, mode] : split) {
         PlistDictionary printOption{{"GraphicsTreatmentEx", treatment}};
         Converter::convertToCanonicalGraphicsTreatmentEx(printOption);
-        EXPECT_EQ(printOption, (PlistDictionary{{"GraphicsTreatmentEx", treatment},
-                                                {"GraphicsTreatmentBase", base},
+        EXPECT_EQ(printOption, (PlistDictionary{{"GraphicsTreatmentEx", treatment}, {"GraphicsTreatmentBase", base},
                                                 {"GraphicsTreatmentMode", mode}}));
+    }
+    const std::tuple<const char*, const char*, const char*> joined[] = {
+        {"System", "Text", "System"}, {"Job", "Text", "JobText"}, {"Job", "Image", "JobImage"}, {"Other", "Other", "JobImage"}};
+    for (const auto& [base, mode, treatment] : joined) {
+        PlistDictionary printOption{{"GraphicsTreatmentBase", base}, {"GraphicsTreatmentMode", mode}};
+        Converter::convertToInternalGraphicsTreatmentEx(printOption);
+        EXPECT_EQ(printOption.stringFor("GraphicsTreatmentEx", ""), treatment) << base << mode;
     }
     PlistDictionary absent;
     Converter::convertToCanonicalGraphicsTreatmentEx(absent);
     EXPECT_TRUE(absent.empty());
-}
-
-TEST(PrintOptionConverterColor, BaseAndModeJoinIntoGraphicsTreatment) {
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"System", "Text", "System"}, {"Job", "Text", "JobText"}, {"Job", "Image", "JobImage"},
-        {"Other", "Other", "JobImage"}};
-    for (const auto& [base, mode, treatment] : rows) {
-        PlistDictionary printOption{{"GraphicsTreatmentBase", base}, {"GraphicsTreatmentMode", mode}};
-        Converter::convertToInternalGraphicsTreatmentEx(printOption);
-        EXPECT_EQ(printOption.stringFor("GraphicsTreatmentEx", ""), treatment) << base << mode;
-        EXPECT_EQ(printOption.size(), 3u);
-    }
     PlistDictionary baseOnly{{"GraphicsTreatmentBase", "Job"}};
     Converter::convertToInternalGraphicsTreatmentEx(baseOnly);
     EXPECT_FALSE(baseOnly.contains("GraphicsTreatmentEx"));
 }
 
-TEST(PrintOptionConverterColor, StandardAndOtherSpotProfilesBothUseThePrintersStandard) {
+TEST(PrintOptionConverterColor, ProfileSwitchesChooseTheProfileType) {
     for (const char* profile : {"Standard", "UseOther"})
         EXPECT_EQ(canonical({{"SpotColorCorrectionProfile", profile}}).stringFor("SpotColorCorrectionProfileType", ""),
                   "PrinterStandard");
-    auto custom = canonical({{"SpotColorCorrectionProfile", "Custom"}, {"SpotColorCorrectionProfileType", "User"}});
-    EXPECT_EQ(custom.stringFor("SpotColorCorrectionProfileType", ""), "User");
-}
-
-TEST(PrintOptionConverterColor, RenderingProfileChoosesTheProfileType) {
-    auto standard = canonical({{"RenderingProfile", "True"}, {"RenderingProfileType", "ICC"}});
-    EXPECT_EQ(standard.stringFor("RenderingProfileType", ""), "PrinterStandard");
-    EXPECT_FALSE(standard.contains("RenderingProfile"));
-
-    auto unnamed = canonical({{"RenderingProfile", "False"}, {"RenderingProfileType", "PrinterStandard"},
-                              {"RenderingProfileName", ""}});
-    EXPECT_EQ(unnamed.stringFor("RenderingProfileType", ""), "ICC");
-    auto absentName = canonical({{"RenderingProfile", "False"}, {"RenderingProfileType", "PrinterStandard"}});
-    EXPECT_EQ(absentName.stringFor("RenderingProfileType", ""), "ICC");
-
-    auto named = canonical({{"RenderingProfile", "False"}, {"RenderingProfileType", "PrinterStandard"},
-                            {"RenderingProfileName", "Coated.icc"}});
-    EXPECT_EQ(named.stringFor("RenderingProfileType", ""), "PrinterStandard");
-    EXPECT_FALSE(named.contains("RenderingProfile"));
-
-    auto measured = canonical({{"RenderingProfile", "False"}, {"RenderingProfileType", "Measurement"}});
-    EXPECT_EQ(measured.stringFor("RenderingProfileType", ""), "Measurement");
-
-    auto noSwitch = canonical({{"RenderingProfileType", "PrinterStandard"}});
-    EXPECT_EQ(noSwitch.stringFor("RenderingProfileType", ""), "PrinterStandard");
+    EXPECT_EQ(canonical({{"SpotColorCorrectionProfile", "Custom"}, {"SpotColorCorrectionProfileType", "User"}})
+                  .stringFor("SpotColorCorrectionProfileType", ""),
+              "User");
+    // Rendering switch, type, name -> type sent to the press.
+    const std::tuple<std::optional<std::string>, const char*, std::optional<std::string>, const char*> rendering[] = {
+        {"True", "ICC", std::nullopt, "PrinterStandard"},
+        {"False", "PrinterStandard", "", "ICC"},
+        {"False", "PrinterStandard", std::nullopt, "ICC"},
+        {"False", "PrinterStandard", "Coated.icc", "PrinterStandard"},
+        {"False", "Measurement", std::nullopt, "Measurement"},
+        {std::nullopt, "PrinterStandard", std::nullopt, "PrinterStandard"}};
+    for (const auto& [renderingSwitch, type, name, sent] : rendering) {
+        PlistDictionary printOption{{"RenderingProfileType", type}};
+        if (renderingSwitch) printOption.set("RenderingProfile", *renderingSwitch);
+        if (name) printOption.set("RenderingProfileName", *name);
+        const PlistDictionary press = canonical(printOption);
+        EXPECT_EQ(press.stringFor("RenderingProfileType", ""), sent) << renderingSwitch.value_or("-") << type;
+        EXPECT_FALSE(press.contains("RenderingProfile"));
+    }
 }
 
 TEST(PrintOptionConverterColor, ProfileTypeReadsBackAsTheRenderingSwitch) {
@@ -133,39 +115,22 @@ TEST(PrintOptionConverterColor, ProfileTypeReadsBackAsTheRenderingSwitch) {
     EXPECT_FALSE(internal({}).contains("RenderingProfile"));
 }
 
-TEST(PrintOptionConverterColor, DecimalCommaLanguagesWriteSpotNamesWithPoints) {
+// Languages writing a decimal comma separate the spot-spot pair with ";"; the press wants
+// points and ",". Other languages, or a missing spot-spot name, leave the names alone.
+TEST(PrintOptionConverterColor, DecimalCommaLanguagesWriteSpotNamesWithPointsAndReadThemBack) {
     for (const char* language : {"fr", "de-DE", "es-MX", "it"}) {
         PreferredLanguage chosen(language);
-        auto printOption = canonical(twoColorNames("1,5;2,5"));
-        EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationSpotSpotName", ""), "1.5,2.5") << language;
-        EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationCSpotName", ""), "0.5");
-        EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationMSpotName", ""), "1.25");
-        EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationYSpotName", ""), "Gold;2.5");
-        EXPECT_FALSE(printOption.contains("TwoColorPressSimulationKSpotName"));
+        EXPECT_EQ(valuesOf(canonical(twoColorNames("1,5;2,5")), kSpotNames),
+                  (Strings{"1.5,2.5", "0.5", "1.25", "Gold;2.5", "-"}))
+            << language;
     }
-}
-
-TEST(PrintOptionConverterColor, DecimalCommaLanguagesReadSpotNamesBackWithCommas) {
     PreferredLanguage french("fr");
-    auto printOption = internal(twoColorNames("1.5,2.5"));
-    EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationSpotSpotName", ""), "1,5;2,5");
-    EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationCSpotName", ""), "0,5");
-    EXPECT_EQ(printOption.stringFor("TwoColorPressSimulationMSpotName", ""), "1,25");
-    EXPECT_FALSE(printOption.contains("TwoColorPressSimulationKSpotName"));
-
-    auto wholeNumbers = internal(twoColorNames("15,25"));
-    EXPECT_EQ(wholeNumbers.stringFor("TwoColorPressSimulationSpotSpotName", ""), "15,25");
-    EXPECT_EQ(wholeNumbers.stringFor("TwoColorPressSimulationMSpotName", ""), "1,25");
-}
-
-TEST(PrintOptionConverterColor, OtherLanguagesAndMissingSpotSpotNameLeaveNamesAlone) {
-    {
-        PreferredLanguage japanese("ja");
-        EXPECT_EQ(canonical(twoColorNames("1,5;2,5")).stringFor("TwoColorPressSimulationSpotSpotName", ""),
-                  "1,5;2,5");
-        EXPECT_EQ(internal(twoColorNames("1.5,2.5")).stringFor("TwoColorPressSimulationCSpotName", ""), "0,5");
-    }
-    PreferredLanguage french("fr-CA");
-    auto withoutSpotSpot = canonical({{"TwoColorPressSimulationCSpotName", "0,5"}});
-    EXPECT_EQ(withoutSpotSpot.stringFor("TwoColorPressSimulationCSpotName", ""), "0,5");
+    EXPECT_EQ(valuesOf(internal(twoColorNames("1.5,2.5")), kSpotNames), (Strings{"1,5;2,5", "0,5", "1,25", "Gold;2,5", "-"}));
+    EXPECT_EQ(valuesOf(internal(twoColorNames("15,25")), {"TwoColorPressSimulationSpotSpotName"}), Strings{"15,25"});
+    EXPECT_EQ(canonical({{"TwoColorPressSimulationCSpotName", "0,5"}}).stringFor("TwoColorPressSimulationCSpotName", ""),
+              "0,5");
+    PreferredLanguage japanese("ja");
+    EXPECT_EQ(valuesOf(canonical(twoColorNames("1,5;2,5")), kSpotNames),
+              (Strings{"1,5;2,5", "0,5", "1.25", "Gold;2,5", "-"}));
+    EXPECT_EQ(internal(twoColorNames("1.5,2.5")).stringFor("TwoColorPressSimulationCSpotName", ""), "0,5");
 }

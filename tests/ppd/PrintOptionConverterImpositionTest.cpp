@@ -94,6 +94,8 @@ TEST(PrintOptionConverterImposition, NupLayoutAndFinishedSizeFollowPagesAndDirec
     }
 }
 
+// Without a document orientation the direction comes from the paper: only the listed
+// long-edge-feed and booklet sizes lie, not every name that ends in "LEF".
 TEST(PrintOptionConverterImposition, NupDirectionComesFromThePaperWhenTheDocumentHasNone) {
     EXPECT_EQ(toCanonical(nup("2up", "Auto", "A4LEF")).stringFor("SheetDirection", ""), "Portrait");
     EXPECT_EQ(toCanonical(nup("2up", "Auto", "A4LEF")).stringFor("FinishSheetDirection", ""), "Landscape");
@@ -101,6 +103,10 @@ TEST(PrintOptionConverterImposition, NupDirectionComesFromThePaperWhenTheDocumen
     PlistDictionary noOrientation{{kMode, "Nup"}, {"ImpositionNup_NumOfPages", "2up"},
                                   {"ChgPrintPaperSizeType", "B5Booklet"}};
     EXPECT_EQ(toCanonical(noOrientation).stringFor("FinishSheetDirection", ""), "Landscape");
+    for (const char* name : {"260x190", "Envkaku3LEF"})
+        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Landscape") << name;
+    for (const char* name : {"16KaiLEFC", "Envyouchou3LEF", "a4lef", ""})
+        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Portrait") << name;
 }
 
 TEST(PrintOptionConverterImposition, NupOnACustomSheetUsesItsOwnSize) {
@@ -115,20 +121,15 @@ TEST(PrintOptionConverterImposition, NupOnACustomSheetUsesItsOwnSize) {
     EXPECT_EQ(canonical.stringFor("SheetSizeWidth", ""), "60001");
 }
 
-TEST(PrintOptionConverterImposition, NupWithAnUnknownPageCountLeavesTheLayoutUnset) {
+TEST(PrintOptionConverterImposition, NupWithAnUnknownPageCountOrSheetLeavesLayoutOrSizeUnset) {
     auto printOption = toCanonical(nup("64up", "Portrait", "A3"));
     for (const char* key : {"LayoutRepeatX", "LayoutRepeatY", "SheetDirection", "FinishedSizeHeight",
                             "FinishedSizeWidth", "ImpositionNup_NumOfPages"})
         EXPECT_FALSE(printOption.contains(key)) << key;
     EXPECT_EQ(printOption.stringFor("LayoutBaseFile", ""), "NUp-1side.json");
     EXPECT_EQ(printOption.stringFor("FinishFixedForm", ""), "Custom");
-}
-
-TEST(PrintOptionConverterImposition, NupOnAnUnknownSheetHasNoSize) {
-    auto printOption = toCanonical(nup("2up", "Portrait", "NoChange"));
-    EXPECT_EQ(printOption.stringFor("FinishedSizeHeight", ""), "0");
-    EXPECT_EQ(printOption.stringFor("FinishedSizeWidth", ""), "0");
-    EXPECT_FALSE(printOption.contains("FixedForm"));
+    auto unknownSheet = toCanonical(nup("2up", "Portrait", "NoChange"));
+    EXPECT_EQ(valuesOf(unknownSheet, {"FinishedSizeHeight", "FinishedSizeWidth", "FixedForm"}), (Strings{"0", "0", "-"}));
 }
 
 TEST(PrintOptionConverterImposition, BookletBecomesSaddleStitchLayout) {
@@ -209,11 +210,9 @@ TEST(PrintOptionConverterImposition, PressLayoutReadsBackAsPageCount) {
     };
     for (const auto& [repeatX, repeatY, direction, pages] : rows) {
         auto printOption = toInternal(pressLayout(repeatX, repeatY, direction));
-        EXPECT_EQ(printOption, (PlistDictionary{{kMode, "Nup"},
-                                                {"ImpositionNup_NumOfPages", pages},
-                                                {"ImpositionBooklet_LayoutBaseFile", "Left"},
-                                                {"ImpositionBooklet_CreepTotalOffset", "0.00"}}))
-            << repeatX << "_" << repeatY << "_" << direction;
+        PlistDictionary expected = withSinglePageImposition({{kMode, "Nup"}});
+        expected.set("ImpositionNup_NumOfPages", pages);
+        EXPECT_EQ(printOption, expected) << repeatX << "_" << repeatY << "_" << direction;
     }
     PlistDictionary missingPart = pressLayout("2", "2", "Portrait");
     missingPart.erase("LayoutRepeatY");
@@ -241,113 +240,42 @@ TEST(PrintOptionConverterImposition, PressBookletReadsBackBindingAndCreep) {
     EXPECT_EQ(leftWithoutMargin.stringFor("ImpositionBooklet_CreepTotalOffset", ""), "0.00");
 }
 
+// Reading back takes the press's two mode keys away; only a complete pair gives a mode.
 TEST(PrintOptionConverterImposition, PressModesReadBackAsThePanesMode) {
     const std::tuple<const char*, const char*, const char*> rows[] = {
         {"Off", "Advanced", "Off"},     {"Template", "Advanced", "Template"}, {"Job", "Nup", "Nup"},
         {"Job", "Booklet", "Booklet"},  {"Job", "Advanced", "Off"},           {"Manual", "Nup", "Off"},
     };
-    for (const auto& [impositionMode, customMode, mode] : rows) {
-        auto printOption = toInternal({{"ImpositionMode", impositionMode}, {"ImpositionCustomMode", customMode}});
-        EXPECT_EQ(printOption.stringFor(kMode, ""), mode) << impositionMode << customMode;
-        EXPECT_FALSE(printOption.contains("ImpositionMode"));
-        EXPECT_FALSE(printOption.contains("ImpositionCustomMode"));
-    }
-}
-
-TEST(PrintOptionConverterImposition, AHalfGivenPressModeStoresNoMode) {
-    auto printOption = toInternal({{"ImpositionMode", "Job"}, {"LayoutRepeatX", "2"}});
-    EXPECT_EQ(printOption, (PlistDictionary{{"ImpositionMode", "Job"},
-                                            {"ImpositionNup_NumOfPages", "2up"},
-                                            {"ImpositionBooklet_LayoutBaseFile", "Left"},
-                                            {"ImpositionBooklet_CreepTotalOffset", "0.00"}}));
+    for (const auto& [impositionMode, customMode, mode] : rows)
+        EXPECT_EQ(valuesOf(toInternal({{"ImpositionMode", impositionMode}, {"ImpositionCustomMode", customMode}}),
+                           {kMode, "ImpositionMode", "ImpositionCustomMode"}),
+                  (Strings{mode, "-", "-"}))
+            << impositionMode << customMode;
+    EXPECT_EQ(toInternal({{"ImpositionMode", "Job"}, {"LayoutRepeatX", "2"}}),
+              withSinglePageImposition({{"ImpositionMode", "Job"}}));
     PlistDictionary empty;
     Converter::convertToInternalImpositionKeyword(empty);
     EXPECT_TRUE(empty.empty());
 }
 
-TEST(PrintOptionConverterImposition, ReadingBackRemovesEveryPressLayoutKey) {
-    PlistDictionary printOption{{"ImpositionMode", "Off"}, {"ImpositionCustomMode", "Advanced"}};
-    const char* pressKeys[] = {"LayoutRepeatX",     "LayoutRepeatY",      "LayoutBaseFile",  "CreepSetting",
-                               "BackMargin",        "CreepTotalOffset",   "CreepInitialOffsetX",
-                               "FinishSheetDirection", "FinishFixedForm", "FinishedSizeName",
-                               "FinishedSizeHeight", "FinishedSizeWidth", "SheetDirection",  "FixedForm",
-                               "SheetSizeName",     "SheetSizeHeight",    "SheetSizeWidth"};
-    for (const char* key : pressKeys) printOption.set(key, "1");
-    printOption.set("FascicleMode", "None");
-    EXPECT_EQ(toInternal(printOption), (PlistDictionary{{"FascicleMode", "None"},
-                                                        {kMode, "Off"},
-                                                        {"ImpositionNup_NumOfPages", "2up"},
-                                                        {"ImpositionBooklet_LayoutBaseFile", "Left"},
-                                                        {"ImpositionBooklet_CreepTotalOffset", "0.00"}}));
-}
-
 TEST(PrintOptionConverterImposition, ScaleToFitFollowsTheCurrentMode) {
-    PlistDictionary save{{kMode, "Booklet"}, {"ImpositionNup_Fitting", "True"}, {"ImpositionBooklet_Fitting", "Yes"}};
-    Converter::saveScaleToFitValue(save);
-    EXPECT_EQ(save.stringFor("Fitting", ""), "Yes");
-    EXPECT_TRUE(save.contains("ImpositionNup_Fitting"));
-    PlistDictionary missingKey{{kMode, "Nup"}, {"ImpositionBooklet_Fitting", "True"}};
-    Converter::saveScaleToFitValue(missingKey);
-    EXPECT_EQ(missingKey.stringFor("Fitting", ""), "False");
-    PlistDictionary noMode{{"ImpositionNup_Fitting", "True"}};
-    Converter::saveScaleToFitValue(noMode);
-    EXPECT_EQ(noMode.stringFor("Fitting", ""), "False");
-
+    const std::pair<PlistDictionary, const char*> saved[] = {
+        {{{kMode, "Booklet"}, {"ImpositionNup_Fitting", "True"}, {"ImpositionBooklet_Fitting", "Yes"}}, "Yes"},
+        {{{kMode, "Nup"}, {"ImpositionBooklet_Fitting", "True"}}, "False"},
+        {{{"ImpositionNup_Fitting", "True"}}, "False"}};
+    for (auto [printOption, fitting] : saved) {
+        Converter::saveScaleToFitValue(printOption);
+        EXPECT_EQ(printOption.stringFor("Fitting", ""), fitting);
+    }
     PlistDictionary setup{{kMode, "Nup"}, {"Fitting", "True"}};
     Converter::setupScaleToFitValue(setup);
     EXPECT_EQ(setup, (PlistDictionary{{kMode, "Nup"}, {"Fitting", "True"}, {"ImpositionNup_Fitting", "True"}}));
     PlistDictionary booklet{{kMode, "Booklet"}, {"Fitting", "False"}};
     Converter::setupScaleToFitValue(booklet);
     EXPECT_EQ(booklet.stringFor("ImpositionBooklet_Fitting", ""), "False");
-    PlistDictionary off{{kMode, "Off"}, {"Fitting", "True"}};
-    Converter::setupScaleToFitValue(off);
-    EXPECT_EQ(off.size(), 2u);
-    PlistDictionary noFitting{{kMode, "Nup"}};
-    Converter::setupScaleToFitValue(noFitting);
-    EXPECT_EQ(noFitting.size(), 1u);
-}
-
-TEST(PrintOptionConverterImposition, SheetSizeIsGivenOnlyForCustomPaper) {
-    PlistDictionary custom{{"ChgPrintPaperSizeType", "Custom"}, {"ChgPrintPaperSizeLength", "200000"},
-                           {"ChgPrintPaperSizeWidth", "140000"}};
-    Converter::convertImpositionSheetSize(custom);
-    EXPECT_EQ(custom.stringFor("FixedForm", ""), "Custom");
-    EXPECT_EQ(custom.stringFor("SheetSizeName", "-"), "");
-    EXPECT_EQ(custom.stringFor("SheetSizeHeight", ""), "200000");
-    EXPECT_EQ(custom.stringFor("SheetSizeWidth", ""), "140000");
-
-    PlistDictionary named{{"ChgPrintPaperSizeType", "B4"}};
-    Converter::convertImpositionSheetSize(named);
-    EXPECT_EQ(named, (PlistDictionary{{"ChgPrintPaperSizeType", "B4"}, {"FixedForm", "B4"}, {"SheetSizeName", ""},
-                                      {"SheetSizeHeight", ""}, {"SheetSizeWidth", ""}}));
-
-    PlistDictionary unchanged{{"ChgPrintPaperSizeType", "NoChange"}};
-    Converter::convertImpositionSheetSize(unchanged);
-    EXPECT_EQ(unchanged.size(), 1u);
-    PlistDictionary absent;
-    Converter::convertImpositionSheetSize(absent);
-    EXPECT_TRUE(absent.empty());
-}
-
-TEST(PrintOptionConverterImposition, ModeDefaultsAreFixed) {
-    PlistDictionary nupDefaults;
-    Converter::restoreDefaultSettigImposition(nupDefaults, "Nup");
-    EXPECT_EQ(nupDefaults,
-              (PlistDictionary{{"FascicleMode", "None"}, {"NumberOfFascicle", "16"}, {"RotationAngle", "Rotate0"}}));
-    PlistDictionary bookletDefaults{{"LayoutRepeatX", "4"}};
-    Converter::restoreDefaultSettigImposition(bookletDefaults, "Booklet");
-    EXPECT_EQ(bookletDefaults, (PlistDictionary{{"LayoutRepeatX", "1"}, {"ImpositionAutoDuplex", "True"},
-                                                {"NupLayout", "Z"}, {"LayoutRepeatY", "1"}}));
-    PlistDictionary other;
-    Converter::restoreDefaultSettigImposition(other, "Template");
-    EXPECT_TRUE(other.empty());
-}
-
-TEST(PrintOptionConverterImposition, FinishedSheetsLieLandscapeOnlyForTheListedSizes) {
-    for (const char* name : {"A4LEF", "B5LEF", "80x100LEF", "85x110LEF", "A2LEF", "B3LEF", "A4Booklet", "B5Booklet",
-                             "A5Booklet", "85x110Booklet", "A5LEF", "260x180", "A6Booklet", "B6Booklet", "16KaiLEF",
-                             "260x190", "Kikuban16LEF", "Kikuban8LEF", "Shirokuban16LEF", "Envkaku3LEF"})
-        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Landscape") << name;
-    for (const char* name : {"A4SEF", "A3", "16KaiLEFC", "Envyouchou3LEF", "a4lef", "", "Custom"})
-        EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Portrait") << name;
+    for (PlistDictionary unchanged : {PlistDictionary{{kMode, "Off"}, {"Fitting", "True"}}, PlistDictionary{{kMode, "Nup"}}}) {
+        const std::size_t size = unchanged.size();
+        Converter::setupScaleToFitValue(unchanged);
+        EXPECT_EQ(unchanged.size(), size);
+    }
 }

@@ -9,15 +9,13 @@
 #include "core/Diagnostics.h"
 #include "core/EncodingLibrary.h"
 #include "core/PlistIO.h"
-#include "ppd/PrintOptionConverter.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 using namespace ConverterTest;
 
 namespace {
 
-// The stand-in library writes each byte as two hexadecimal digits, fails to encode a
-// text starting "encode-fail" and to decode one of odd length.
+// The stand-in library writes each byte as two hexadecimal digits.
 class EncodingLibrary : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -43,42 +41,29 @@ protected:
 
 }  // namespace
 
-TEST_F(EncodingLibrary, PasswordsAreEncodedForThePressWithTheFlag) {
+// Passwords are encoded toward the press only with the flag, and always decoded back.
+TEST_F(EncodingLibrary, PasswordsAreEncodedForThePressWithTheFlagAndDecodedBack) {
+    const std::initializer_list<const char*> keys = {"SecPrintPassword", "RscPassword", "AuthJobPassword"};
     auto press = canonical({{"SecPrintPassword", "1234"}, {"RscPassword", ""}, {"AuthJobPassword", "pw"}});
-    EXPECT_EQ(press.stringFor("SecPrintPassword", ""), "31323334");
-    EXPECT_EQ(press.stringFor("RscPassword", "-"), "");
-    EXPECT_EQ(press.stringFor("AuthJobPassword", ""), "7077");
+    EXPECT_EQ(valuesOf(press, keys), (Strings{"31323334", "", "7077"}));
     EXPECT_FALSE(loggedAnywhere("1234"));
-
-    auto unflagged = canonical({{"SecPrintPassword", "1234"}}, 0);
-    EXPECT_EQ(unflagged.stringFor("SecPrintPassword", ""), "1234");
-}
-
-TEST_F(EncodingLibrary, PasswordsAreDecodedFromThePressAlways) {
+    EXPECT_EQ(canonical({{"SecPrintPassword", "1234"}}, 0).stringFor("SecPrintPassword", ""), "1234");
     auto panes = internal({{"SecPrintPassword", "31323334"}, {"RscPassword", "616263"}, {"AuthJobPassword", ""}});
-    EXPECT_EQ(panes.stringFor("SecPrintPassword", ""), "1234");
-    EXPECT_EQ(panes.stringFor("RscPassword", ""), "abc");
-    EXPECT_EQ(panes.stringFor("AuthJobPassword", "-"), "");
+    EXPECT_EQ(valuesOf(panes, keys), (Strings{"1234", "abc", ""}));
 }
 
-TEST_F(EncodingLibrary, FailedEncodingIsLoggedAndLeavesTheEmptyBuffer) {
+// The stand-in fails to encode a text starting "encode-fail" and to decode one of odd
+// length; the failure is logged, without the password, and leaves the empty buffer.
+TEST_F(EncodingLibrary, FailedConversionIsLoggedAndLeavesTheEmptyBuffer) {
     auto press = canonical({{"RscPassword", "encode-fail-secret"}, {"SecPrintPassword", "ok"}});
-    EXPECT_EQ(press.stringFor("RscPassword", "-"), "");
-    EXPECT_EQ(press.stringFor("SecPrintPassword", ""), "6f6b");
+    EXPECT_EQ(valuesOf(press, {"RscPassword", "SecPrintPassword"}), (Strings{"", "6f6b"}));
     EXPECT_TRUE(logged("###### encode error"));
     EXPECT_FALSE(loggedAnywhere("encode-fail-secret"));
-}
-
-TEST_F(EncodingLibrary, FailedDecodingIsLoggedAndLeavesTheEmptyBuffer) {
-    auto panes = internal({{"AuthJobPassword", "abc"}});
-    EXPECT_EQ(panes.stringFor("AuthJobPassword", "-"), "");
+    EXPECT_EQ(internal({{"AuthJobPassword", "abc"}}).stringFor("AuthJobPassword", "-"), "");
     EXPECT_TRUE(logged("###### decode error"));
-}
-
-TEST_F(EncodingLibrary, WithoutTheLibraryPasswordsCannotBeEncoded) {
+    lines.clear();
     unloadEncDec();
-    auto press = canonical({{"SecPrintPassword", "1234"}});
-    EXPECT_EQ(press.stringFor("SecPrintPassword", "-"), "");
+    EXPECT_EQ(canonical({{"SecPrintPassword", "1234"}}).stringFor("SecPrintPassword", "-"), "");
     EXPECT_TRUE(logged("###### encode error"));
 }
 

@@ -1,53 +1,32 @@
 #include <gtest/gtest.h>
 
 #include "PrintOptionTestSupport.h"
-#include "ppd/PrintOptionConverter.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 using namespace ConverterTest;
 
-namespace {
-
-PlistDictionary nupOnCustomSheet() {
-    return {{"ImpositionMode_ImpositionCustomMode", "Nup"}, {"ImpositionNup_NumOfPages", "2up"},
-            {"DocumentOrientation", "Portrait"},            {"ChgPrintPaperSizeType", "Custom"},
-            {"ChgPrintPaperSizeLength", "420"},             {"ChgPrintPaperSizeWidth", "297"}};
+// Custom sizes reach cep before the imposition computes the finished and sheet sizes;
+// without the flag they stay in millimetres, and so do the sizes computed from them.
+TEST(PrintOptionConverterStepOrder, ImpositionSizesComeFromTheConvertedCustomSizes) {
+    const PlistDictionary nupOnCustomSheet{
+        {"ImpositionMode_ImpositionCustomMode", "Nup"}, {"ImpositionNup_NumOfPages", "2up"},
+        {"DocumentOrientation", "Portrait"},            {"ChgPrintPaperSizeType", "Custom"},
+        {"ChgPrintPaperSizeLength", "420"},             {"ChgPrintPaperSizeWidth", "297"}};
+    const std::initializer_list<const char*> sizes = {"FinishedSizeHeight", "FinishedSizeWidth", "SheetSizeHeight",
+                                                      "SheetSizeWidth"};
+    EXPECT_EQ(valuesOf(canonical(nupOnCustomSheet), sizes), (Strings{"168378", "119055", "238110", "168378"}));
+    EXPECT_EQ(valuesOf(canonical(nupOnCustomSheet, 0), sizes), (Strings{"297", "210", "420", "297"}));
 }
 
-}  // namespace
-
-// Custom sizes reach cep before the imposition computes the finished and sheet sizes.
-TEST(PrintOptionConverterStepOrder, ImpositionSizesComeFromCustomSizesInCep) {
-    auto press = canonical(nupOnCustomSheet());
-    EXPECT_EQ(press.stringFor("FinishedSizeHeight", ""), "168378");
-    EXPECT_EQ(press.stringFor("FinishedSizeWidth", ""), "119055");
-    EXPECT_EQ(press.stringFor("SheetSizeHeight", ""), "238110");
-    EXPECT_EQ(press.stringFor("SheetSizeWidth", ""), "168378");
-}
-
-// Without the flag the custom sizes stay in millimetres, and so do the sizes computed
-// from them.
-TEST(PrintOptionConverterStepOrder, WithoutTheFlagImpositionSizesStayInMillimetres) {
-    auto press = canonical(nupOnCustomSheet(), 0);
-    EXPECT_EQ(press.stringFor("FinishedSizeHeight", ""), "297");
-    EXPECT_EQ(press.stringFor("FinishedSizeWidth", ""), "210");
-    EXPECT_EQ(press.stringFor("SheetSizeHeight", ""), "420");
-}
-
-// Scale to fit is read back after the imposition mode is known.
-TEST(PrintOptionConverterStepOrder, FittingReadsBackIntoTheModeRestoredBeforeIt) {
-    auto panes = internal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"Fitting", "True"}});
-    EXPECT_EQ(panes.stringFor("ImpositionMode_ImpositionCustomMode", ""), "Booklet");
-    EXPECT_EQ(panes.stringFor("ImpositionBooklet_Fitting", ""), "True");
-    EXPECT_FALSE(panes.contains("ImpositionNup_Fitting"));
-}
-
-// The per-mode fitting key of the current mode wins over any "Fitting" already there.
-TEST(PrintOptionConverterStepOrder, FittingIsWrittenFromTheModeBeforeTheModeKeysGo) {
+// Toward the press the fitting key of the current mode wins over any "Fitting" already
+// there; reading back, scale to fit goes to the mode restored before it.
+TEST(PrintOptionConverterStepOrder, FittingFollowsTheModeInBothDirections) {
     auto press = canonical({{"ImpositionMode_ImpositionCustomMode", "Nup"}, {"ImpositionNup_Fitting", "True"},
                             {"Fitting", "False"}});
-    EXPECT_EQ(press.stringFor("Fitting", ""), "True");
-    EXPECT_FALSE(press.contains("ImpositionNup_Fitting"));
+    EXPECT_EQ(valuesOf(press, {"Fitting", "ImpositionNup_Fitting"}), (Strings{"True", "-"}));
+    auto panes = internal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"Fitting", "True"}});
+    EXPECT_EQ(valuesOf(panes, {"ImpositionMode_ImpositionCustomMode", "ImpositionBooklet_Fitting", "ImpositionNup_Fitting"}),
+              (Strings{"Booklet", "True", "-"}));
 }
 
 // The press's imposition keys are read back after the lengths: the creep comes from the
@@ -55,9 +34,8 @@ TEST(PrintOptionConverterStepOrder, FittingIsWrittenFromTheModeBeforeTheModeKeys
 TEST(PrintOptionConverterStepOrder, BookletCreepReadsBackFromTheGutterInCep) {
     auto panes = internal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"BackMargin", "2835"},
                            {"FinishedSizeHeight", "119055"}, {"ChgPrintPaperSizeLength", "238110"}});
-    EXPECT_EQ(panes.stringFor("ImpositionBooklet_CreepTotalOffset", ""), "5.00");
-    EXPECT_EQ(panes.stringFor("ChgPrintPaperSizeLength", ""), "420.00");
-    EXPECT_FALSE(panes.contains("FinishedSizeHeight"));
+    EXPECT_EQ(valuesOf(panes, {"ImpositionBooklet_CreepTotalOffset", "ChgPrintPaperSizeLength", "FinishedSizeHeight"}),
+              (Strings{"5.00", "420.00", "-"}));
 }
 
 TEST(PrintOptionConverterStepOrder, PlainEntryPointsConvertWithTheFlagAndPassNullThrough) {

@@ -70,6 +70,11 @@ TEST(PrintOptionConverterTable, ItemsMapTagValuesToOptionKeywordsAsIntegers) {
     EXPECT_EQ(ppdFormat({{"PP_TRAY", "3"}}), (PlistDictionary{{"QVInputSlot", "Tray3"}}));
     EXPECT_EQ(ppdFormat({{"PP_TRAY", "40"}}), (PlistDictionary{{"QVInputSlot", "Tray40"}}));
     EXPECT_EQ(ppdFormat({{"PP_OTHER", "3"}}), PlistDictionary());
+    auto& converter = PrintOptionConverter::sharedInstance();
+    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "TrayMSI"), PlistValue(5));
+    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "Tray7"), PlistValue(7));
+    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "Bin"), std::nullopt);
+    EXPECT_EQ(converter.inputMgrTagValue("OutputTray", "Bin"), std::nullopt);
 }
 
 TEST(PrintOptionConverterTable, NumberedPatternSubtractsItsTagValue) {
@@ -140,19 +145,14 @@ TEST(PrintOptionConverterTable, MagnificationMultipliesExactlyTowardTheInputMana
     EXPECT_EQ(inputMgrFormat({{"Magnification", 1}}), (PlistDictionary{{"IM_MAG", true}}));
 }
 
-TEST(PrintOptionConverterTable, FormatAloneRewritesTheNumber) {
+// Texts pass unchanged but for a format of their own; toward the PPD the yen sign becomes a backslash.
+TEST(PrintOptionConverterTable, FormatAloneRewritesTheNumberAndYenSignBecomesBackslash) {
     TableBundle bundle({{"CreaseNum", PlistDictionary{{"tagKey", "FN_CRSNUM"}, {"format", "0"}}},
-                        {"MailAddress", PlistDictionary{{"tagKey", "JB_MAILADDR"}}}});
-    EXPECT_EQ(ppdFormat({{"FN_CRSNUM", "3.0"}, {"JB_MAILADDR", "ops@example.org"}}),
-              (PlistDictionary{{"CreaseNum", "3"}, {"MailAddress", "ops@example.org"}}));
-    EXPECT_EQ(inputMgrFormat({{"CreaseNum", "3"}, {"MailAddress", "ops@example.org"}}),
-              (PlistDictionary{{"FN_CRSNUM", "3"}, {"JB_MAILADDR", "ops@example.org"}}));
-}
-
-TEST(PrintOptionConverterTable, YenSignBecomesBackslashTowardThePpd) {
-    TableBundle bundle({{"UserName", PlistDictionary{{"tagKey", "JB_USER"}}}});
-    EXPECT_EQ(ppdFormat({{"JB_USER", "SALES\xC2\xA5kim\xC2\xA5"}}), (PlistDictionary{{"UserName", "SALES\\kim\\"}}));
-    EXPECT_EQ(inputMgrFormat({{"UserName", "SALES\xC2\xA5kim"}}), (PlistDictionary{{"JB_USER", "SALES\xC2\xA5kim"}}));
+                        {"UserName", PlistDictionary{{"tagKey", "JB_USER"}}}});
+    EXPECT_EQ(ppdFormat({{"FN_CRSNUM", "3.0"}, {"JB_USER", "SALES\xC2\xA5kim\xC2\xA5"}}),
+              (PlistDictionary{{"CreaseNum", "3"}, {"UserName", "SALES\\kim\\"}}));
+    EXPECT_EQ(inputMgrFormat({{"CreaseNum", "3"}, {"UserName", "SALES\xC2\xA5kim"}}),
+              (PlistDictionary{{"FN_CRSNUM", "3"}, {"JB_USER", "SALES\xC2\xA5kim"}}));
 }
 
 TEST(PrintOptionConverterTable, RgbColourModeSetsTheCorrectionAndDropsAutoKeys) {
@@ -176,25 +176,12 @@ TEST(PrintOptionConverterTable, SaveFileTypeCarriesTheResolution) {
     EXPECT_EQ(ppdFormat({{"SP_SAVEFT", "3"}}), PlistDictionary());
 }
 
-TEST(PrintOptionConverterTable, TagValueOfOneChoice) {
-    TableBundle bundle({{"QVInputSlot", kTrayEntry}});
-    auto& converter = PrintOptionConverter::sharedInstance();
-    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "TrayMSI"), PlistValue(5));
-    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "Tray7"), PlistValue(7));
-    EXPECT_EQ(converter.inputMgrTagValue("QVInputSlot", "Bin"), std::nullopt);
-    EXPECT_EQ(converter.inputMgrTagValue("OutputTray", "Bin"), std::nullopt);
-}
-
-TEST(PrintOptionConverterTable, TableIsReadAgainOnEachConversion) {
-    TableBundle bundle({{"QVInputSlot", kTrayEntry}});
-    EXPECT_EQ(ppdFormat({{"PP_TRAY", "5"}}), (PlistDictionary{{"QVInputSlot", "TrayMSI"}}));
-    PlistIO::writeFile(bundle.tablePath(), PlistDictionary{{"InputSlot", kTrayEntry}});
-    EXPECT_EQ(ppdFormat({{"PP_TRAY", "5"}}), (PlistDictionary{{"InputSlot", "TrayMSI"}}));
-}
-
-TEST(PrintOptionConverterTable, MissingTableOrInputGivesNothing) {
+TEST(PrintOptionConverterTable, TableIsReadAgainOnEachConversionAndWithoutItNothingConverts) {
     {
         TableBundle bundle({{"QVInputSlot", kTrayEntry}});
+        EXPECT_EQ(ppdFormat({{"PP_TRAY", "5"}}), (PlistDictionary{{"QVInputSlot", "TrayMSI"}}));
+        PlistIO::writeFile(bundle.tablePath(), PlistDictionary{{"InputSlot", kTrayEntry}});
+        EXPECT_EQ(ppdFormat({{"PP_TRAY", "5"}}), (PlistDictionary{{"InputSlot", "TrayMSI"}}));
         std::filesystem::remove(bundle.tablePath());
         EXPECT_FALSE(PrintOptionConverter::sharedInstance().convertTable());
         EXPECT_EQ(ppdFormat({{"PP_TRAY", "5"}, {"SP_SAVEFT", "0"}}), PlistDictionary());

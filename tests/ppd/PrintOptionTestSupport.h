@@ -3,6 +3,7 @@
 #include <map>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "core/PlistValue.h"
 #include "ppd/PrintOptionConverter.h"
@@ -60,14 +61,19 @@ inline PlistDictionary withSinglePageImposition(PlistDictionary expected) {
     return expected;
 }
 
-}  // namespace ConverterTest
-
-namespace ConverterTest {
-
 /// The dictionary's entries by key, for comparisons where the order of keys is no part
 /// of the answer.
 inline std::map<std::string, ComQuorvantVelmar_Plugin::PlistValue> entriesOf(const PlistDictionary& dictionary) {
     return {dictionary.begin(), dictionary.end()};
 }
+
+/// The values of keys in printOption, "-" for an absent one.
+inline std::vector<std::string> valuesOf(const PlistDictionary& printOption, std::initializer_list<const char*> keys) {
+    std::vector<std::string> values;
+    for (const char* key : keys) values.push_back(printOption.stringFor(key, "-"));
+    return values;
+}
+
+using Strings = std::vector<std::string>;
 
 }  // namespace ConverterTest

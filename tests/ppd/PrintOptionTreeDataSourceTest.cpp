@@ -100,22 +100,19 @@ private:
 
 }  // namespace
 
-TEST_F(SummaryTree, ALeadingCurrentSettingItemIsTheRoot) {
+// A leading "CurrentSetting" item is the root, a trailing one is left out, one elsewhere
+// is an ordinary item.
+TEST_F(SummaryTree, CurrentSettingItemIsTheRootOnlyWhenItLeads) {
+    const std::vector<std::string> panes{"Paper", "Finishing", "Colour"};
     useTree({group("CurrentSetting", pressPanes()), pane("SpoolOptions")});
-    EXPECT_EQ(labels(outline.rows()), (std::vector<std::string>{"Paper", "Finishing", "Colour"}));
-}
-
-TEST_F(SummaryTree, ATrailingCurrentSettingItemIsLeftOut) {
-    PlistArray items = pressPanes();
-    items.push_back(group("CurrentSetting", {pane("SpoolOptions")}));
-    useTree(items);
-    EXPECT_EQ(labels(outline.rows()), (std::vector<std::string>{"Paper", "Finishing", "Colour"}));
-}
-
-TEST_F(SummaryTree, ACurrentSettingItemElsewhereIsAnOrdinaryItem) {
-    PlistArray items = pressPanes();
-    items.insert(items.begin() + 1, group("CurrentSetting", {}));
-    useTree(items);
+    EXPECT_EQ(labels(outline.rows()), panes);
+    PlistArray trailing = pressPanes();
+    trailing.push_back(group("CurrentSetting", {pane("SpoolOptions")}));
+    useTree(trailing);
+    EXPECT_EQ(labels(outline.rows()), panes);
+    PlistArray middle = pressPanes();
+    middle.insert(middle.begin() + 1, group("CurrentSetting", {}));
+    useTree(middle);
     EXPECT_EQ(tree.numberOfChildrenOfItem(nullptr), 4u);
 }
 
@@ -154,40 +151,29 @@ TEST_F(SummaryTree, EveryFinishedUpdateTellsTheViewItsItemsAreNew) {
     EXPECT_EQ(outline.reloadCount(), bound + 2);
 }
 
-TEST_F(SummaryTree, DependencyExpansionAsksTheManagerOncePerNodeUntilTheNextUpdate) {
-    useTree({group("Imposition", {setting("Layout")})}, true);
-    const OutlineItem imposition = topLevel(0);
-    tree.objectValueForItem(imposition);
-    const int afterFirst = manager->resolutions;
-    tree.objectValueForItem(imposition);
-    EXPECT_EQ(manager->resolutions, afterFirst);
-    EXPECT_TRUE(manager->expandedAsked);
-    tree.updatePrintOption(std::nullopt, true);
-    EXPECT_GT(manager->resolutions, afterFirst);
-    const int afterUpdate = manager->resolutions;
-    tree.objectValueForItem(topLevel(0));
-    EXPECT_EQ(manager->resolutions, afterUpdate);
-}
-
-TEST_F(SummaryTree, WithoutDependencyExpansionEveryQuestionAsksTheManager) {
+// With dependency expansion a node is resolved once until the next update, unless the
+// resolution was empty; without it every question asks the manager.
+TEST_F(SummaryTree, DependencyExpansionKeepsEachNonEmptyResolutionUntilTheNextUpdate) {
+    const auto resolutionsOfTwoQuestions = [this](OutlineItem item) {
+        tree.objectValueForItem(item);
+        const int afterFirst = manager->resolutions;
+        tree.objectValueForItem(item);
+        return manager->resolutions - afterFirst;
+    };
     useTree({group("Imposition", {setting("Layout")})});
-    const OutlineItem imposition = topLevel(0);
-    tree.objectValueForItem(imposition);
-    const int afterFirst = manager->resolutions;
-    tree.objectValueForItem(imposition);
-    EXPECT_GT(manager->resolutions, afterFirst);
+    EXPECT_GT(resolutionsOfTwoQuestions(topLevel(0)), 0);
     EXPECT_FALSE(manager->expandedAsked);
-}
-
-TEST_F(SummaryTree, AnEmptyResolutionIsNotKept) {
-    manager->answers["Imposition"] = PlistDictionary();
     useTree({group("Imposition", {setting("Layout")})}, true);
-    const OutlineItem imposition = topLevel(0);
-    tree.objectValueForItem(imposition);
-    const int afterFirst = manager->resolutions;
-    tree.objectValueForItem(imposition);
-    EXPECT_GT(manager->resolutions, afterFirst);
-    EXPECT_FALSE(tree.isItemExpandable(imposition));
+    EXPECT_EQ(resolutionsOfTwoQuestions(topLevel(0)), 0);
+    EXPECT_TRUE(manager->expandedAsked);
+    const int beforeUpdate = manager->resolutions;
+    tree.updatePrintOption(std::nullopt, true);
+    EXPECT_GT(manager->resolutions, beforeUpdate);
+    EXPECT_EQ(resolutionsOfTwoQuestions(topLevel(0)), 0);
+    manager->answers["Imposition"] = PlistDictionary();
+    tree.updatePrintOption(std::nullopt, true);
+    EXPECT_GT(resolutionsOfTwoQuestions(topLevel(0)), 0);
+    EXPECT_FALSE(tree.isItemExpandable(topLevel(0)));
 }
 
 TEST_F(SummaryTree, TheResolvedNodeGivesChildrenAndLabel) {

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "print_service/PrintService.h"
 #include "print_service/PrintServiceRequests.h"
 #include "print_service/PrintServiceResultCodes.h"
 #include "print_service/PrintServiceSoap.h"
@@ -10,7 +9,6 @@
 #include "print_service/PrintServiceSoap_envelope.h"
 #include "print_service/PrintService_PropKeyValue.h"
 #include "print_service/SOAPFault.h"
-#include "print_service/USGlobals.h"
 
 namespace {
 
@@ -104,25 +102,6 @@ TEST(PrintServiceSerialization, WrittenResponseReadsBackAsItWas) {
     EXPECT_EQ(*PrintServiceValueString(*readItem->val), "Booklet");
 }
 
-TEST(PrintServiceSerialization, ResultTablesReadAndWriteTheExactNames) {
-    EXPECT_EQ(PrintService_ServiceResult_enumFromString("OK"), 1);
-    EXPECT_EQ(PrintService_ServiceResult_enumFromString("IniFileError"), 16);
-    EXPECT_EQ(PrintService_ServiceResult_enumFromString("Error"), 41);
-    EXPECT_EQ(PrintService_ServiceResult_enumFromString("Ok"), 0);
-    EXPECT_EQ(PrintService_ServiceResult_stringFromEnum(PrintService_ServiceResult(34)), "AppleTalkNeedRebootAfp");
-    EXPECT_EQ(PrintService_ServiceResult_stringFromEnum(PrintService_ServiceResult(0)), "");
-    EXPECT_EQ(PrintService_ServiceResult_stringFromEnum(PrintService_ServiceResult(42)), "");
-    EXPECT_EQ(PrintService_ResourceResult_enumFromString("Unsupperted"), 16);
-    EXPECT_EQ(PrintService_ResourceResult_enumFromString("InifileError"), 19);
-    EXPECT_EQ(PrintService_ResourceResult_enumFromString("FbdeltaeToomuch"), 49);
-    EXPECT_EQ(PrintService_ResourceResult_enumFromString("Unsupported"), 0);
-    EXPECT_EQ(PrintService_ResourceResult_stringFromEnum(PrintService_ResourceResult(51)), "IccVersionError");
-    EXPECT_EQ(PrintService_ResourceResult_stringFromEnum(PrintService_ResourceResult(-1)), "");
-    EXPECT_EQ(PrintService_CmsResResult_enumFromString("CalibPrtPapsizeTooSmall"), 6);
-    EXPECT_EQ(PrintService_CmsResResult_stringFromEnum(PrintService_CmsResResult(3)), "RscExist");
-    EXPECT_EQ(PrintService_CmsResResult_stringFromEnum(PrintService_CmsResResult(7)), "");
-}
-
 TEST(PrintServiceSerialization, SimpleFaultStringDropsExceptionNameAndStack) {
     SOAPFault fault;
     fault.faultstring = "System.Web.Services.Protocols.SoapException: Queue held\n   at Press.Queue()\n   at X";
@@ -131,22 +110,4 @@ TEST(PrintServiceSerialization, SimpleFaultStringDropsExceptionNameAndStack) {
         "System.Web.Services.Protocols.SoapException: System.Web.Services.Protocols.SoapException: "
         "twice\nno trace";
     EXPECT_EQ(fault.simpleFaultString(), "twice\nno trace");
-}
-
-TEST(PrintServiceSerialization, BooleanIsTrueOrFalseOnly) {
-    EXPECT_EQ(USBoolean::fromString("true"), USBoolean(true));
-    EXPECT_EQ(USBoolean::fromString("false")->stringValue(), "false");
-    EXPECT_FALSE(USBoolean::fromString("TRUE"));
-    EXPECT_FALSE(USBoolean::fromString("1"));
-}
-
-TEST(PrintServiceSerialization, NamespaceTableHasTheFiveServiceEntries) {
-    PrintService::initialize();
-    const auto& table = USGlobals::sharedInstance().wsdlStandardNamespaces;
-    EXPECT_EQ(table.size(), 5u);
-    EXPECT_EQ(table.at("qv:vorn"), "PrintService");
-    EXPECT_EQ(table.at("http://www.w3.org/2001/XMLSchema"), "");
-    EXPECT_EQ(table.at("http://schemas.xmlsoap.org/soap/envelope/"), "SOAPENV");
-    EXPECT_EQ(table.at("http://schemas.xmlsoap.org/soap/encoding/"), "SOAPENC");
-    EXPECT_EQ(table.at("http://www.w3.org/2001/XMLSchema-instance"), "xsi");
 }

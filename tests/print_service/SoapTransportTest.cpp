@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -113,45 +115,53 @@ TEST(PrintServiceTransport, MalformedReplyFailsInTheOperationsDomain) {
     EXPECT_TRUE(fonts.bodyParts.empty());
 }
 
-TEST(PrintServiceTransport, EmptyReplyGivesNeitherPartsNorError) {
-    auto response = fontListFrom(CannedReply::soap(""));
-    EXPECT_FALSE(response.error);
-    EXPECT_TRUE(response.bodyParts.empty());
-}
-
-TEST(PrintServiceTransport, ConnectionClosedOrRefusedIsATransportError) {
-    auto closed = fontListFrom(CannedReply::closing());
-    ASSERT_TRUE(closed.error);
-    EXPECT_EQ(closed.error->domain, "HTTPTransport");
-    EXPECT_EQ(closed.error->code, 52);
-
-    auto binding =
-        PrintService::PrintServiceSoap("http://127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort()));
-    auto refused = binding->getFontListUsingParameters({});
-    ASSERT_TRUE(refused.error);
-    EXPECT_EQ(refused.error->code, 7);
-    EXPECT_TRUE(refused.bodyParts.empty());
-}
-
-TEST(PrintServiceTransport, SlowServerRunsIntoTheTimeout) {
+// A server that closes, resets, falls silent before its reply or after its head, or is
+// not there at all, ends the call with a transport error and no body parts, long before a
+// silent server would close. An empty reply is no error.
+TEST(PrintServiceTransport, FailingServerGivesATransportError) {
     CannedReply slow = CannedReply::soap(kFontReply);
     slow.delay = std::chrono::seconds(5);
-    LoopbackHttpServer server({slow});
-    auto binding = bindingFor(server);
-    binding->setDefaultTimeout(0.2);
-    auto response = binding->getFontListUsingParameters({});
-    ASSERT_TRUE(response.error);
-    EXPECT_EQ(response.error->domain, "HTTPTransport");
-    EXPECT_EQ(response.error->code, 28);
-    EXPECT_TRUE(response.bodyParts.empty());
+    const std::pair<CannedReply, std::vector<long>> cases[] = {
+        {CannedReply::closing(), {52}},
+        {CannedReply::resetHalfWay(4096), {56, 18}},
+        {slow, {28}},
+        {CannedReply::stallingAfterTheHead(std::chrono::seconds(10)), {28}}};
+    for (const auto& [reply, codes] : cases) {
+        LoopbackHttpServer server({reply});
+        auto binding = bindingFor(server);
+        binding->setDefaultTimeout(0.3);
+        const auto start = std::chrono::steady_clock::now();
+        auto failed = binding->getFontListUsingParameters({});
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
+        ASSERT_TRUE(failed.error);
+        EXPECT_EQ(failed.error->domain, "HTTPTransport");
+        EXPECT_NE(std::find(codes.begin(), codes.end(), failed.error->code), codes.end()) << failed.error->code;
+        EXPECT_TRUE(failed.bodyParts.empty());
+    }
+    auto refused = PrintService::PrintServiceSoap("http://127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort()))
+                       ->getFontListUsingParameters({});
+    ASSERT_TRUE(refused.error);
+    EXPECT_EQ(refused.error->code, 7);
+    auto empty = fontListFrom(CannedReply::soap(""));
+    EXPECT_FALSE(empty.error);
+    EXPECT_TRUE(empty.bodyParts.empty());
 }
 
+TEST(PrintServiceTransport, ServerResettingHalfWayLeavesTheBindingReadyForTheNextCall) {
+    LoopbackHttpServer server({CannedReply::resetHalfWay(4096), CannedReply::soap(kFontReply)});
+    auto binding = bindingFor(server);
+    EXPECT_TRUE(binding->getFontListUsingParameters({}).error);
+    EXPECT_EQ(binding->getFontListUsingParameters({}).bodyPartsOfType<PrintService_getFontListResponse>().size(), 1u);
+}
+
+// With or without a length, and by default at 16 MB for a reply that never ends.
 TEST(PrintServiceTransport, ReplyOverTheSizeLimitIsCutOff) {
     const std::string large =
         soapReply(std::string(R"(<getFontListResponse xmlns="qv:vorn"><result>OK</result>)") +
                   std::string(5000, ' ') + "</getFontListResponse>");
     CannedReply withoutLength{"HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nConnection: close\r\n\r\n" + large};
-    LoopbackHttpServer server({CannedReply::soap(large), withoutLength, CannedReply::soap(kFontReply)});
+    LoopbackHttpServer server(
+        {CannedReply::soap(large), withoutLength, CannedReply::soap(kFontReply), CannedReply::endless()});
     auto binding = bindingFor(server);
     binding->setMaximumReplySize(1000);
     for (int attempt = 0; attempt < 2; ++attempt) {
@@ -160,8 +170,13 @@ TEST(PrintServiceTransport, ReplyOverTheSizeLimitIsCutOff) {
         EXPECT_EQ(response.error->localizedDescription, "The reply exceeds 1000 bytes");
         EXPECT_TRUE(response.bodyParts.empty());
     }
-    EXPECT_EQ(binding->getFontListUsingParameters({}).bodyPartsOfType<PrintService_getFontListResponse>().size(),
-              1u);
+    EXPECT_EQ(binding->getFontListUsingParameters({}).bodyPartsOfType<PrintService_getFontListResponse>().size(), 1u);
+    auto byDefault = bindingFor(server);
+    byDefault->setDefaultTimeout(20);
+    auto endless = byDefault->getFontListUsingParameters({});
+    ASSERT_TRUE(endless.error);
+    EXPECT_EQ(endless.error->localizedDescription,
+              "The reply exceeds " + std::to_string(PrintServiceSoap::kDefaultMaximumReplySize) + " bytes");
 }
 
 TEST(PrintServiceTransport, ReplyWithADocumentTypeIsRefused) {

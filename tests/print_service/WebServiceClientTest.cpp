@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -66,26 +67,6 @@ std::string jobResourceReply(std::string_view statusAndDetail) {
 
 }  // namespace
 
-TEST(WebServiceClient, StackersAndFeedersTakePlainItemsOfTheirKeyValueFirst) {
-    auto stackers = rowsFor(replyFixture("stackers.xml"), [](auto& c, auto a) { return c.getStackerInfoList(a); });
-    EXPECT_EQ(stackers, (Rows{{"StackerA", "Type"}, {"LargeCapacity", "Type"}, {"3", "Type"}}));
-    auto feeders = rowsFor(replyFixture("feeders.xml"), [](auto& c, auto a) { return c.getFeederInfoList(a); });
-    EXPECT_EQ(feeders, (Rows{{"1", "Number"}, {"3", "Number"}}));
-}
-
-TEST(WebServiceClient, DeviceListIsEveryPlainItemOfTheDictionary) {
-    auto rows = rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getDeviceList(a); });
-    EXPECT_EQ(rows, (Rows{{"PU-501", "Puncher"}, {"FD-503", "Folder"}, {"2", "Stacker"}}));
-}
-
-TEST(WebServiceClient, CustomPaperRowsUseTheLastIndexSeen) {
-    auto rows =
-        rowsFor(replyFixture("prepost_devices.xml"), [](auto& c, auto a) { return c.getPrePostDeviceList(a); });
-    EXPECT_EQ(rows, (Rows{{"3-Thick", "Custom_Off_Uncoated_Off_None_3"},
-                          {"7-Coated Gloss", "Custom_Off_Uncoated_Off_None_7"},
-                          {"7-Late", "Custom_Off_Uncoated_Off_None_7"}}));
-}
-
 TEST(WebServiceClient, JobFoldersStartWithTheLocalizedSharedFolder) {
     using namespace ComQuorvantVelmar_Plugin;
     SetNSBundleForLocalizedString(Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR));
@@ -103,68 +84,66 @@ TEST(WebServiceClient, JobFoldersStartWithTheLocalizedSharedFolder) {
     PreferredLanguages::setFirst("");
 }
 
-TEST(WebServiceClient, SpotColorListsLeaveOutRecordsWithoutTheirKeys) {
-    auto spots =
-        rowsFor(replyFixture("cms_spot.xml"), [](auto& c, auto a) { return c.getCmsSpotGetAllListData(a); });
-    EXPECT_EQ(spots, (Rows{{"Rubine Red", "PANTONE", "0", "45.2", "71.5", "4.1", "0", "100", "15", "4"},
-                           {"Custom", "Brand Blue", "1", "30", "10", "-60", "100", "70", "0", "0"}}));
-    auto info = rowsFor(replyFixture("spot_color_info.xml"),
-                        [](auto& c, auto a) { return c.getSpotColorAllInfoListData(a); });
-    EXPECT_EQ(info, (Rows{{"Rubine Red", "Pantone"}, {"Custom", "Brand Blue"}}));
-}
-
-TEST(WebServiceClient, ColumnsFollowTheServerOrderWithEmptyTextForMissingValues) {
-    auto substitutions =
-        rowsFor(replyFixture("color_subst.xml"), [](auto& c, auto a) { return c.getColorSubstList(a); });
-    EXPECT_EQ(
-        substitutions,
-        (Rows{{"Office RGB", "Logo greens", "2023/04/11 09:12:44"}, {"Proof", "", "2023/05/02 17:00:00"}, {}}));
-    auto density = rowsFor(replyFixture("density_profiles.xml"),
-                           [](auto& c, auto a) { return c.getDensityAdjustProfileList(a); });
-    EXPECT_EQ(density, (Rows{{"Default", "as shipped", "2023/01/01 00:00:00"},
-                             {"2023/05/05 05:05:05", "Light", "minus 5%"}}));
-    auto curves =
-        rowsFor(replyFixture("trc_profiles.xml"), [](auto& c, auto a) { return c.getUserTrcProfileList(a); });
-    EXPECT_EQ(curves, (Rows{{"Linear", "identity", "2023/01/01 00:00:00"}}));
-    auto rgb = rowsFor(replyFixture("rgb_input_profiles.xml"),
-                       [](auto& c, auto a) { return c.getRGBInputProfileFileList(a); });
-    EXPECT_EQ(rgb, (Rows{{"sRGB IEC61966-2.1", "default", "2022/01/01 00:00:00"},
-                         {"Adobe RGB (1998)", "2022/01/01 00:00:00"}}));
-    auto links =
-        rowsFor(replyFixture("device_links.xml"), [](auto& c, auto a) { return c.getDeviceLinkFileList(a); });
-    EXPECT_EQ(links, (Rows{{"FOGRA39 to press", "link", "2023/02/02 02:02:02"},
-                           {"second", "GRACoL to press", "2023/02/03 03:03:03"}}));
-}
-
-TEST(WebServiceClient, TonerTargetIsAlwaysTheLastColumn) {
-    auto sets =
-        rowsFor(replyFixture("job_resource_sets.xml"), [](auto& c, auto a) { return c.getJobResourceSetList(a); });
-    EXPECT_EQ(sets, (Rows{{"SYSTEM_DEFAULT", "factory", "2023/01/01 00:00:00", "CMYK"},
-                          {"Coated", "gloss stock", "2023/02/03 08:15:00", "CMYK+Clear"}}));
-    auto calibrations =
-        rowsFor(replyFixture("calib_files.xml"), [](auto& c, auto a) { return c.getCalibFileList(a); });
-    EXPECT_EQ(calibrations, (Rows{{"calib_0601.cal", "Standard"},
-                                  {"calib_0602.cal", "after service", "2023/06/02 07:45:10", "High"}}));
-}
-
-TEST(WebServiceClient, FontsListStandardFontsBeforeOptionalFonts) {
-    auto fonts = rowsFor(replyFixture("fonts.xml"), [](auto& c, auto a) { return c.getFontList(a); });
-    EXPECT_EQ(fonts, (Rows{{"Courier", "Courier"},
-                           {"Helvetica-Bold", "Helvetica Bold"},
-                           {"Mincho", "Ryumin-Light-83pv-RKSJ-H"}}));
-}
-
-TEST(WebServiceClient, ProfileKindsKeepColorimetryOrIccRecordsOnly) {
-    const std::string reply = replyFixture("output_profiles.xml");
-    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 0); }),
-              (Rows{{"Press native", "measured", "2023/03/14 15:09:26"}}));
-    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 1); }),
-              (Rows{{"Coated FOGRA39", "ISO coated", "2022/11/30 12:00:00"},
-                    {"Uncoated FOGRA29", "", "2022/11/30 12:00:00"}}));
-    EXPECT_EQ(rowsFor(reply, [](auto& c, auto a) { return c.getOutputProfileFileList(a, 2); }), Rows{});
-    EXPECT_EQ(rowsFor(replyFixture("cmyk_input_profiles.xml"),
-                      [](auto& c, auto a) { return c.getCMYKInputProfileFileList(a, 0); }),
-              (Rows{{"Press native", "measured", "2023/03/14 15:09:26"}}));
+// Each list method reads the rows of its recorded reply.
+TEST(WebServiceClient, EveryListReadsTheRowsOfItsReply) {
+    using Method = std::function<std::optional<Rows>(WebServiceClient&, const std::string&)>;
+    struct Case {
+        const char* why;
+        const char* fixture;
+        Method method;
+        Rows expected;
+    };
+    const Case cases[] = {
+        {"stackers take the plain items of their key value first", "stackers.xml",
+         [](auto& c, auto a) { return c.getStackerInfoList(a); },
+         {{"StackerA", "Type"}, {"LargeCapacity", "Type"}, {"3", "Type"}}},
+        {"feeders likewise", "feeders.xml", [](auto& c, auto a) { return c.getFeederInfoList(a); },
+         {{"1", "Number"}, {"3", "Number"}}},
+        {"devices are every plain item of the dictionary", "prepost_devices.xml",
+         [](auto& c, auto a) { return c.getDeviceList(a); }, {{"PU-501", "Puncher"}, {"FD-503", "Folder"}, {"2", "Stacker"}}},
+        {"custom paper rows use the last index seen", "prepost_devices.xml",
+         [](auto& c, auto a) { return c.getPrePostDeviceList(a); },
+         {{"3-Thick", "Custom_Off_Uncoated_Off_None_3"},
+          {"7-Coated Gloss", "Custom_Off_Uncoated_Off_None_7"},
+          {"7-Late", "Custom_Off_Uncoated_Off_None_7"}}},
+        {"spot colours leave out records without their keys", "cms_spot.xml",
+         [](auto& c, auto a) { return c.getCmsSpotGetAllListData(a); },
+         {{"Rubine Red", "PANTONE", "0", "45.2", "71.5", "4.1", "0", "100", "15", "4"},
+          {"Custom", "Brand Blue", "1", "30", "10", "-60", "100", "70", "0", "0"}}},
+        {"spot colour information likewise", "spot_color_info.xml",
+         [](auto& c, auto a) { return c.getSpotColorAllInfoListData(a); },
+         {{"Rubine Red", "Pantone"}, {"Custom", "Brand Blue"}}},
+        {"columns follow the server's order, empty for missing values", "color_subst.xml",
+         [](auto& c, auto a) { return c.getColorSubstList(a); },
+         {{"Office RGB", "Logo greens", "2023/04/11 09:12:44"}, {"Proof", "", "2023/05/02 17:00:00"}, {}}},
+        {"density profiles", "density_profiles.xml", [](auto& c, auto a) { return c.getDensityAdjustProfileList(a); },
+         {{"Default", "as shipped", "2023/01/01 00:00:00"}, {"2023/05/05 05:05:05", "Light", "minus 5%"}}},
+        {"tone curves", "trc_profiles.xml", [](auto& c, auto a) { return c.getUserTrcProfileList(a); },
+         {{"Linear", "identity", "2023/01/01 00:00:00"}}},
+        {"RGB input profiles", "rgb_input_profiles.xml", [](auto& c, auto a) { return c.getRGBInputProfileFileList(a); },
+         {{"sRGB IEC61966-2.1", "default", "2022/01/01 00:00:00"}, {"Adobe RGB (1998)", "2022/01/01 00:00:00"}}},
+        {"device links", "device_links.xml", [](auto& c, auto a) { return c.getDeviceLinkFileList(a); },
+         {{"FOGRA39 to press", "link", "2023/02/02 02:02:02"}, {"second", "GRACoL to press", "2023/02/03 03:03:03"}}},
+        {"the toner target is always the last column", "job_resource_sets.xml",
+         [](auto& c, auto a) { return c.getJobResourceSetList(a); },
+         {{"SYSTEM_DEFAULT", "factory", "2023/01/01 00:00:00", "CMYK"},
+          {"Coated", "gloss stock", "2023/02/03 08:15:00", "CMYK+Clear"}}},
+        {"calibrations likewise", "calib_files.xml", [](auto& c, auto a) { return c.getCalibFileList(a); },
+         {{"calib_0601.cal", "Standard"}, {"calib_0602.cal", "after service", "2023/06/02 07:45:10", "High"}}},
+        {"standard fonts come before optional fonts", "fonts.xml", [](auto& c, auto a) { return c.getFontList(a); },
+         {{"Courier", "Courier"}, {"Helvetica-Bold", "Helvetica Bold"}, {"Mincho", "Ryumin-Light-83pv-RKSJ-H"}}},
+        {"output profiles of kind 0 keep colorimetry records", "output_profiles.xml",
+         [](auto& c, auto a) { return c.getOutputProfileFileList(a, 0); },
+         {{"Press native", "measured", "2023/03/14 15:09:26"}}},
+        {"of kind 1 ICC records", "output_profiles.xml", [](auto& c, auto a) { return c.getOutputProfileFileList(a, 1); },
+         {{"Coated FOGRA39", "ISO coated", "2022/11/30 12:00:00"}, {"Uncoated FOGRA29", "", "2022/11/30 12:00:00"}}},
+        {"of another kind none", "output_profiles.xml", [](auto& c, auto a) { return c.getOutputProfileFileList(a, 2); },
+         {}},
+        {"CMYK input profiles likewise", "cmyk_input_profiles.xml",
+         [](auto& c, auto a) { return c.getCMYKInputProfileFileList(a, 0); },
+         {{"Press native", "measured", "2023/03/14 15:09:26"}}},
+    };
+    for (const Case& each : cases) EXPECT_EQ(rowsFor(replyFixture(each.fixture), each.method), each.expected) << each.why;
 }
 
 TEST(WebServiceClient, JobResourcesAskForTheTypeAndSetAndReadTheRows) {
@@ -215,15 +194,14 @@ TEST(WebServiceClient, StatusOtherThanOKStopsTheListLoggedOrSilently) {
     EXPECT_TRUE(log.contains("###PrintService error: 17"));
 }
 
+// A fault is no response error; an unreachable server is, logged twice, until the next
+// call that gets a reply.
 TEST(WebServiceClient, FaultOrUnreachableServerGivesAnEmptyList) {
     const std::string fault =
         soapReply(R"(<soap:Fault><faultcode>soap:Server</faultcode>)"
                   R"(<faultstring>Server was unable to process request.</faultstring></soap:Fault>)");
     LoopbackHttpServer server({CannedReply::http(500, fault)});
     WebServiceClient client = clientFor(server);
-    EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
-    EXPECT_FALSE(client.lastResponseError());
-
     LogLines log;
     client.setPort(LoopbackHttpServer::unusedPort());
     EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
@@ -232,6 +210,10 @@ TEST(WebServiceClient, FaultOrUnreachableServerGivesAnEmptyList) {
     ASSERT_EQ(log.lines.size(), 2u);
     EXPECT_EQ(log.lines[0].rfind("###ResponseError:\nError Domain=HTTPTransport Code=7 ", 0), 0u) << log.lines[0];
     EXPECT_EQ(log.lines[1].rfind("###Response: Error Domain=HTTPTransport Code=7 ", 0), 0u) << log.lines[1];
+
+    client.setPort(server.port());
+    EXPECT_EQ(client.getFontList("127.0.0.1"), Rows{});
+    EXPECT_FALSE(client.lastResponseError());
 }
 
 TEST(WebServiceClient, NoAddressOrAnExcludedProgramGivesNothing) {

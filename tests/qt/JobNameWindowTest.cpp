@@ -59,20 +59,6 @@ TEST_F(JobNameWindowTest, ShowsTheRowsAndEnablesTheNameOnlyForATypedName) {
     EXPECT_EQ(name, "");
 }
 
-TEST_F(JobNameWindowTest, ATypedNameEndsTheDialogAndComesBackEscaped) {
-    WhenShown<JobNameWindow> user([](JobNameWindow& window) {
-        chooseTypedName(window);
-        window.jobNameField()->setFocus();
-        QtWidgetTest::typeText(window.jobNameField(), "Proof (v2)");
-        QTest::mouseClick(window.okButton(), Qt::LeftButton);
-    });
-    EXPECT_TRUE(ShowJobNameModalDialog(specific, &escaped, name));
-    EXPECT_TRUE(user.ran());
-    EXPECT_EQ(specific, "Input");
-    EXPECT_EQ(name, "Proof (v2)");
-    EXPECT_EQ(escaped, "Proof \\(v2\\)");
-}
-
 TEST_F(JobNameWindowTest, AnEmptyTypedNameIsRefusedInASheetAndTheDialogStaysOpen) {
     WhenShown<JobNameWindow> user([](JobNameWindow& window) {
         chooseTypedName(window);

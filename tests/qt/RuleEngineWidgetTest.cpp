@@ -49,22 +49,17 @@ protected:
 
 }  // namespace
 
-TEST_F(ExclusivePrintModes, DecliningTheQuestionTakesTheClickBack) {
-    MessageBoxClicker clicker("No");
-    QTest::mouseClick(_authenticated, Qt::LeftButton);
-    EXPECT_TRUE(clicker.clicked());
-    EXPECT_TRUE(clicker.wasWindowModal());
-    EXPECT_TRUE(clicker.text().contains("Authentication Print")) << clicker.text().toStdString();
-    EXPECT_FALSE(_authenticated->isChecked());
-    EXPECT_TRUE(_secure->isChecked());
-    EXPECT_EQ(_manager.getStringValue("AuthJob"), "False");
-}
-
-TEST_F(ExclusivePrintModes, AcceptingTheQuestionClearsTheOtherBox) {
-    MessageBoxClicker clicker("Yes");
-    QTest::mouseClick(_authenticated, Qt::LeftButton);
-    EXPECT_TRUE(clicker.clicked());
-    EXPECT_TRUE(_authenticated->isChecked());
-    EXPECT_FALSE(_secure->isChecked());
-    EXPECT_EQ(_manager.getStringValue("SecPrint"), "False");
+// The question is a sheet of the window; "No" takes the click back, "Yes" clears the other box.
+TEST_F(ExclusivePrintModes, TheAnswerToTheQuestionDecidesWhichBoxStaysChecked) {
+    for (const bool accepted : {false, true}) {
+        MessageBoxClicker clicker(accepted ? "Yes" : "No");
+        QTest::mouseClick(_authenticated, Qt::LeftButton);
+        EXPECT_TRUE(clicker.clicked());
+        EXPECT_TRUE(clicker.wasWindowModal());
+        EXPECT_TRUE(clicker.text().contains("Authentication Print")) << clicker.text().toStdString();
+        EXPECT_EQ(_authenticated->isChecked(), accepted);
+        EXPECT_EQ(_secure->isChecked(), !accepted);
+        EXPECT_EQ(_manager.getStringValue("AuthJob"), accepted ? "True" : "False");
+        EXPECT_EQ(_manager.getStringValue("SecPrint"), accepted ? "False" : "True");
+    }
 }

@@ -27,41 +27,45 @@ QLineEdit* fieldOf(const ShownControl& shown) { return shown.body<TextFieldContr
 
 }  // namespace
 
-TEST(NumberFieldWidget, EnglishTypesAPointAndRefusesAComma) {
-    Language english("en");
-    ShownControl shown(buildControl("Zoom"));
-    QLineEdit* field = fieldOf(shown);
-    EXPECT_EQ(field->text(), "100.0");
-    typeOver(field, "150,5");
-    EXPECT_EQ(field->text(), "150");
-    typeOver(field, "150.55");
-    EXPECT_EQ(field->text(), "150.5");
-    EXPECT_EQ(field->cursorPosition(), 5);
-
-    NotificationRecorder recorder({"Zoom"});
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(shown.control().getStringValue(), "150.5");
-    EXPECT_EQ(recorder.names(), std::vector<std::string>{"Zoom"});
-}
-
-TEST(NumberFieldWidget, GermanTypesACommaAndRefusesAPoint) {
-    Language german("de");
-    ShownControl shown(buildControl("Zoom"));
-    QLineEdit* field = fieldOf(shown);
-    EXPECT_EQ(field->text(), "100,0");
-    QStringList labels;
-    for (const QLabel* label : shown.view().findChildren<QLabel*>()) labels.append(label->text());
-    EXPECT_TRUE(labels.contains("% (25,0 - 400,0)"));
-    typeOver(field, "150.5");
-    EXPECT_EQ(field->text(), "150");
-    typeOver(field, "150,5");
-    EXPECT_EQ(field->text(), "150,5");
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(shown.control().getStringValue(), "150.5");
-    typeOver(field, "80");
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(field->text(), "80,0");
-    EXPECT_EQ(shown.control().getStringValue(), "80.0");
+// The field takes the decimal separator of the user's language, refuses the other one, and
+// hands the control the number with a point.
+TEST(NumberFieldWidget, TypesTheUsersDecimalSeparatorAndRefusesTheOther) {
+    const struct {
+        const char* language;
+        const char* shown;
+        const char* limits;
+        const char* refused;
+        const char* typed;
+        const char* whole;  // a typed "80" shown back; nullptr: not checked
+    } cases[] = {
+        {"en", "100.0", "% (25.0 - 400.0)", "150,5", "150.5", nullptr},
+        {"de", "100,0", "% (25,0 - 400,0)", "150.5", "150,5", "80,0"},
+    };
+    for (const auto& probe : cases) {
+        SCOPED_TRACE(probe.language);
+        Language chosen(probe.language);
+        ShownControl shown(buildControl("Zoom"));
+        QLineEdit* field = fieldOf(shown);
+        EXPECT_EQ(field->text(), probe.shown);
+        QStringList labels;
+        for (const QLabel* label : shown.view().findChildren<QLabel*>()) labels.append(label->text());
+        EXPECT_TRUE(labels.contains(probe.limits));
+        typeOver(field, probe.refused);
+        EXPECT_EQ(field->text(), "150");
+        typeOver(field, QString(probe.typed) + "5");
+        EXPECT_EQ(field->text(), probe.typed);
+        EXPECT_EQ(field->cursorPosition(), 5);
+        NotificationRecorder recorder({"Zoom"});
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_EQ(shown.control().getStringValue(), "150.5");
+        EXPECT_EQ(recorder.names(), std::vector<std::string>{"Zoom"});
+        if (!probe.whole) continue;
+        // A whole number typed in German is written back in the user's form with its decimal.
+        typeOver(field, "80");
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_EQ(field->text(), probe.whole);
+        EXPECT_EQ(shown.control().getStringValue(), "80.0");
+    }
 }
 
 TEST(NumberFieldWidget, AboveMaximumRefusedAtOnceBelowMinimumReportedAtTheEnd) {

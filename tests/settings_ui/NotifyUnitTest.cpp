@@ -18,44 +18,31 @@ struct Listener {
 
 }  // namespace
 
-TEST(NotifyUnit, AnonymousPostsReachObserversOfTheNameOnly) {
-    Listener listener;
-    listener.listen("StapleMode");
-    int sender = 0;
-    NotifyUnit::postNotificationName("StapleMode", &sender);
-    NotifyUnit::postNotificationName("StapleMode", PlistDictionary{{"Paramater", "Saddle"}});
-    NotifyUnit::postNotificationName("Fold");
-    EXPECT_EQ(listener.heard, (std::vector<std::string>{"StapleMode", "StapleMode"}));
-    EXPECT_EQ(NotifyUnit::keyNameWithName("Punch_PunchHoles"), "Punch_PunchHoles");
-}
-
-TEST(NotifyUnit, PassesUserInformationAndOnlyTheFullFormNamesItsSender) {
+// Anonymous observers hear every post of their name; an observer of one sender only its
+// posts. Only the full form of a post names its sender.
+TEST(NotifyUnit, PostsReachObserversOfTheNameAndSenderWithTheirUserInformation) {
     std::vector<Notification> received;
     int observer = 0;
     int sender = 0;
+    int other = 0;
     NotifyUnit::addObserver(&observer, [&](const Notification& notification) { received.push_back(notification); },
                             "OutputTray");
+    Listener ofSender;
+    ofSender.listen("OutputTray", &sender);
     NotifyUnit::postNotificationName("OutputTray", &sender);
     NotifyUnit::postNotificationName("OutputTray", &sender, PlistDictionary{{"Paramater", "Toptray"}});
     NotifyUnit::postNotificationName("OutputTray", PlistDictionary{{"isCollectiveChange", "True"}}, 1u);
+    NotifyUnit::postNotificationName("OutputTray", &other, PlistDictionary{});
+    NotifyUnit::postNotificationName("Fold");
     NotifyUnit::removeObserver(&observer);
-    ASSERT_EQ(received.size(), 3u);
+    ASSERT_EQ(received.size(), 4u);
     EXPECT_EQ(received[0].object, nullptr);
     EXPECT_FALSE(received[0].userInfo);
     EXPECT_EQ(received[1].object, &sender);
     EXPECT_EQ(received[1].userInfo->stringFor("Paramater", ""), "Toptray");
     EXPECT_EQ(received[2].userInfo->stringFor("isCollectiveChange", ""), "True");
-}
-
-TEST(NotifyUnit, ObserverOfOneSenderIgnoresOthers) {
-    int chosen = 0;
-    int other = 0;
-    Listener listener;
-    listener.listen("ColorMode", &chosen);
-    NotifyUnit::postNotificationName("ColorMode", &other, PlistDictionary{});
-    NotifyUnit::postNotificationName("ColorMode", &chosen, PlistDictionary{});
-    NotifyUnit::postNotificationName("ColorMode");
-    EXPECT_EQ(listener.heard.size(), 1u);
+    EXPECT_EQ(ofSender.heard.size(), 1u);
+    EXPECT_EQ(NotifyUnit::keyNameWithName("Punch_PunchHoles"), "Punch_PunchHoles");
 }
 
 TEST(NotifyUnit, RemovesOneNameOrEveryName) {
@@ -91,11 +78,3 @@ TEST(NotifyUnit, HandlersMayPostAndRemoveObserversWhileDelivering) {
     EXPECT_EQ(order, (std::vector<std::string>{"first", "nested"}));
 }
 
-TEST(NotifyUnit, ReachesTheRuleEngineFromAnyControl) {
-    SettingsTest::AlertScript alerts;
-    auto manager = SettingsTest::managerWith({"OutputTray", "OffsetMode"});
-    auto control = manager->controlsOf("OutputTray")->front();
-    control->selectItemAtIndex(1);
-    control->popupButtonAction();
-    EXPECT_FALSE(manager->controlsOf("OffsetMode")->front()->isEnabled());
-}

@@ -46,6 +46,26 @@ std::unique_ptr<VORNMgr> managerWith(const std::vector<std::string>& keywords) {
     return manager;
 }
 
+void choose(VORNMgr& manager, const std::string& keyword, const std::string& choice) {
+    auto control = manager.controlsOf(keyword)->front();
+    const auto& items = control->popupItems();
+    for (std::size_t index = 0; index < items.size(); ++index)
+        if (items[index].choice == choice) control->selectItemAtIndex(static_cast<int>(index));
+    control->popupButtonAction();
+}
+
+void click(VORNMgr& manager, const std::string& keyword) {
+    auto control = manager.controlsOf(keyword)->front();
+    control->setCheckBoxShownState(!control->checkBoxShownState());
+    control->checkboxAction();
+}
+
+std::vector<std::string> popupChoices(const VORNUI& control) {
+    std::vector<std::string> choices;
+    for (const auto& item : control.popupItems()) choices.push_back(item.choice);
+    return choices;
+}
+
 NotificationRecorder::NotificationRecorder(const std::vector<std::string>& names) {
     for (const std::string& name : names)
         NotifyUnit::addObserver(this, [this](const Notification& notification) { _received.push_back(notification); },

@@ -30,6 +30,13 @@ void registerLikeAPane(VORNMgr& manager, const std::shared_ptr<VORNUI>& control)
 /// controls of keywords built and registered in that order.
 std::unique_ptr<VORNMgr> managerWith(const std::vector<std::string>& keywords);
 
+/// The user picks choice in the pop-up of keyword, as a click does.
+void choose(VORNMgr& manager, const std::string& keyword, const std::string& choice);
+/// The user clicks the check box of keyword.
+void click(VORNMgr& manager, const std::string& keyword);
+/// The choices of control's pop-up items in order.
+std::vector<std::string> popupChoices(const VORNUI& control);
+
 /// Records, in order, every post of the given names.
 class NotificationRecorder {
 public:

@@ -242,15 +242,6 @@ TEST(ProductDescription, EveryTextHasEnglishGermanAndJapanese) {
     }
 }
 
-TEST(ProductDescription, ControlsSpeakTheUsersLanguage) {
-    Language german("de");
-    auto staple = buildProductControl("StapleMode");
-    EXPECT_EQ(staple->texts().title, "Heften");
-    EXPECT_EQ(staple->popupItems()[13].title, "Rückstichheftung");
-    Language japanese("ja");
-    EXPECT_EQ(buildProductControl("OutputTray")->popupItems()[7].title, "フィニッシャートレイ");
-}
-
 TEST(ProductDescription, DefaultsAreConsistentAndAskNothing) {
     AlertScript alerts;
     auto manager = std::make_unique<VORNMgr>();
@@ -291,19 +282,6 @@ TEST(ProductDescription, FinishingMovesOutputToTheFinisher) {
     manager->setStringValue("PaperTypeD", "Labels");
     NotifyUnit::postNotificationName("PaperTypeD");
     EXPECT_EQ(manager->getStringValue("StapleMode"), "None");
-}
-
-TEST(ProductDescription, InstalledOptionsPruneThePanelPopups) {
-    auto staple = buildProductControl("StapleMode");
-    const PlistDictionary device = IOTOptionUpdater::convertArrayToDict(
-        PlistArray{PlistArray{"true", "saddleFoldStaple"}, PlistArray{"true", "doubleStitch"}});
-    IOTOptionUpdater::Groups devices, options;
-    IOTOptionUpdater::getStapleOptionsWithKeyDevices(devices, options);
-    EXPECT_TRUE(IOTOptionUpdater::updatePopupButtonComponent(staple.get(), &device, &devices, &options));
-    std::vector<std::string> left;
-    for (const auto& item : staple->popupItems()) left.push_back(item.choice);
-    EXPECT_EQ(left, (std::vector<std::string>{"None", "TopEdge", "BottomEdge", "LeftEdge", "RightEdge", "MixSizeEdge",
-                                              "SaddleInside", "SaddleOutside", "Saddle"}));
 }
 
 namespace {

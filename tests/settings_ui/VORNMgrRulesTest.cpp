@@ -6,24 +6,12 @@
 
 using namespace ComQuorvantVelmar_Plugin;
 using SettingsTest::AlertScript;
+using SettingsTest::choose;
+using SettingsTest::click;
 using SettingsTest::Language;
 using SettingsTest::NotificationRecorder;
 
 namespace {
-
-void choose(VORNMgr& manager, const std::string& keyword, const std::string& choice) {
-    auto control = manager.controlsOf(keyword)->front();
-    const auto& items = control->popupItems();
-    for (std::size_t index = 0; index < items.size(); ++index)
-        if (items[index].choice == choice) control->selectItemAtIndex(static_cast<int>(index));
-    control->popupButtonAction();
-}
-
-void click(VORNMgr& manager, const std::string& keyword) {
-    auto control = manager.controlsOf(keyword)->front();
-    control->setCheckBoxShownState(!control->checkBoxShownState());
-    control->checkboxAction();
-}
 
 bool enabled(VORNMgr& manager, const std::string& keyword) {
     return manager.controlsOf(keyword)->front()->isEnabled();

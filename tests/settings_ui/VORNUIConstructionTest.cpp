@@ -68,53 +68,43 @@ TEST(ControlHeight, FieldsPopupsSlidersAndDatePickers) {
     EXPECT_EQ(heightOf(described("StapleMode"), {{"control_type", "Stepper"}, {"blank_line_count", "3"}}), 0);
 }
 
-TEST(NumberField, StepAndFormatFollowTheLimitsDigits) {
+// Number fields take their unit and step from the digits of their limits; text fields
+// their format code and length from the description (256 without one).
+TEST(FieldConstruction, UnitStepAndLengthComeFromTheDescription) {
+    const std::tuple<const char*, std::uint32_t, double> numbers[] = {
+        {"CreasePosition1", VORNTextField::UnitHundredths, 0.01},
+        {"Magnification", VORNTextField::UnitOneDecimal, 0.1},
+        {"NumCopies", VORNTextField::UnitInteger, 1},
+        {"HairLineWarningPoint", VORNTextField::UnitThousandths, 0.001}};
+    for (const auto& [keyword, unit, increment] : numbers) {
+        const auto control = SettingsTest::buildControl(keyword);
+        ASSERT_TRUE(control->stepper()) << keyword;
+        EXPECT_DOUBLE_EQ(control->stepper()->increment, increment) << keyword;
+        EXPECT_EQ(control->textField()->unit(), unit) << keyword;
+        EXPECT_TRUE(control->textField()->isNum()) << keyword;
+    }
     const auto crease = SettingsTest::buildControl("CreasePosition1");
-    ASSERT_TRUE(crease->stepper());
-    EXPECT_DOUBLE_EQ(crease->stepper()->increment, 0.01);
-    EXPECT_EQ(crease->textField()->unit(), 4u);
-    EXPECT_TRUE(crease->textField()->isNum());
     EXPECT_DOUBLE_EQ(crease->textField()->minValue(), 0.5);
     EXPECT_DOUBLE_EQ(crease->stepper()->maxValue, 10.25);
-    const auto zoom = SettingsTest::buildControl("Magnification");
-    EXPECT_DOUBLE_EQ(zoom->stepper()->increment, 0.1);
-    EXPECT_EQ(zoom->textField()->unit(), 3u);
-    const auto copies = SettingsTest::buildControl("NumCopies");
-    EXPECT_DOUBLE_EQ(copies->stepper()->increment, 1);
-    EXPECT_EQ(copies->textField()->unit(), 0u);
-    EXPECT_TRUE(copies->isEnableButton());
-    EXPECT_EQ(copies->texts().buttonText, "Reset");
-    const auto hairline = SettingsTest::buildControl("HairLineWarningPoint");
-    EXPECT_DOUBLE_EQ(hairline->stepper()->increment, 0.001);
-    EXPECT_EQ(hairline->textField()->unit(), 5u);
-    EXPECT_EQ(heightOf(described("CreasePosition1"), {{"min", 0.5}, {"max", 10.0}}), 48);
-    EXPECT_EQ(buildFrom([] {
-                  PlistDictionary d = described("CreasePosition1");
-                  d.set("min", 0.5);
-                  d.set("max", 10);
-                  return d;
-              }())->textField()->unit(),
-              3u);
-}
+    PlistDictionary tenths = described("CreasePosition1");
+    tenths.set("max", 10);
+    EXPECT_EQ(buildFrom(tenths)->textField()->unit(), VORNTextField::UnitOneDecimal);
 
-TEST(TextField, FormatCodesAndLengthsComeFromTheDescription) {
-    EXPECT_EQ(SettingsTest::buildControl("MailAddress")->textField()->unit(), 7u);
+    const std::pair<const char*, std::uint32_t> texts[] = {{"MailAddress", VORNTextField::UnitEmail},
+                                                           {"PhysicalPageRange", VORNTextField::UnitPageList},
+                                                           {"SpTonerPageRangeFront", VORNTextField::UnitSpecialTonerPages},
+                                                           {"SecPrintPassword", VORNTextField::UnitAscii},
+                                                           {"PaperColorCustomName", VORNTextField::UnitText}};
+    for (const auto& [keyword, unit] : texts) {
+        const auto control = SettingsTest::buildControl(keyword);
+        EXPECT_EQ(control->textField()->unit(), unit) << keyword;
+        EXPECT_EQ(control->textField()->keyword(), keyword);
+    }
     EXPECT_EQ(SettingsTest::buildControl("MailAddress")->textField()->digit(), 40u);
-    EXPECT_EQ(SettingsTest::buildControl("PhysicalPageRange")->textField()->unit(), 9u);
-    EXPECT_EQ(SettingsTest::buildControl("SpTonerPageRangeFront")->textField()->unit(), 11u);
-    const auto password = SettingsTest::buildControl("SecPrintPassword");
-    EXPECT_EQ(password->textField()->unit(), 8u);
-    EXPECT_TRUE(password->textField()->isSecure());
-    const auto name = SettingsTest::buildControl("PaperColorCustomName");
-    EXPECT_EQ(name->textField()->unit(), 10u);
-    EXPECT_EQ(name->textField()->keyword(), "PaperColorCustomName");
-    EXPECT_EQ(heightOf(described("PaperColorCustomName"), {}, {"max_digit"}), 48);
-    EXPECT_EQ(buildFrom([] {
-                  PlistDictionary d = described("PaperColorCustomName");
-                  d.erase("max_digit");
-                  return d;
-              }())->textField()->digit(),
-              256u);
+    EXPECT_TRUE(SettingsTest::buildControl("SecPrintPassword")->textField()->isSecure());
+    PlistDictionary unlimited = described("PaperColorCustomName");
+    unlimited.erase("max_digit");
+    EXPECT_EQ(buildFrom(unlimited)->textField()->digit(), 256u);
 }
 
 TEST(Construction, TitleFollowsThePaneAndMessagesUseTheirOwnName) {
@@ -124,6 +114,7 @@ TEST(Construction, TitleFollowsThePaneAndMessagesUseTheirOwnName) {
     EXPECT_EQ(density->mainKeyword(), "ImageDensity");
     EXPECT_EQ(density->controlType(), VORNUI::Type::Slider);
     EXPECT_EQ(SettingsTest::buildControl("NumCopies")->mainKeywordText(), "Copies");
+    EXPECT_TRUE(SettingsTest::buildControl("NumCopies")->isEnableButton());
     const auto mail = SettingsTest::buildControl("MailNotifyJobEnd");
     EXPECT_EQ(mail->texts().groupTitle, "Notification");
     EXPECT_FALSE(mail->isGroupMain());

