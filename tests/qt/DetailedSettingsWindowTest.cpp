@@ -34,7 +34,7 @@ void typeInto(VORNUIWidget* setting, const QString& text) {
     auto* field = setting ? qobject_cast<TextFieldControlWidget*>(setting->body()) : nullptr;
     ASSERT_TRUE(field && field->lineEdit()->isEnabled());
     field->lineEdit()->setFocus();
-    QtWidgetTest::typeText(field->lineEdit(), text);
+    typeText(field->lineEdit(), text);
 }
 
 void clickItem(QTreeWidget& tree, QTreeWidgetItem* item) {
@@ -51,7 +51,7 @@ void clickItem(QTreeWidget& tree, QTreeWidgetItem* item) {
 TEST(DetailedSettingsWindow, OkKeepsTheWindowUpUntilTheSettingsFitTogether) {
     ShownPanel shownPanel;
     const auto& controller = DetailedSettingsWinController::sharedInstance();
-    std::unique_ptr<QtWidgetTest::MessageBoxClicker> message;
+    std::unique_ptr<MessageBoxClicker> message;
     bool upUnderTheMessage = false;
     UserSteps user;
     user.add([&] { return activeWindow<DetailedSettingsWindow>() && controller.isRunning(); },
@@ -60,7 +60,7 @@ TEST(DetailedSettingsWindow, OkKeepsTheWindowUpUntilTheSettingsFitTogether) {
                  EXPECT_EQ(window.parentWidget(), &shownPanel.window());
                  showPage(window, "MailNotifyJobEnd");
                  toggle(settingIn(window, "MailNotifyJobEnd"));
-                 message = std::make_unique<QtWidgetTest::MessageBoxClicker>("OK");
+                 message = std::make_unique<MessageBoxClicker>("OK");
                  QTest::mouseClick(window.okButton(), Qt::LeftButton);
              });
     user.add([&] { return message && message->clicked() && controller.isRunning(); },
@@ -83,16 +83,13 @@ TEST(DetailedSettingsWindow, OkKeepsTheWindowUpUntilTheSettingsFitTogether) {
 
 TEST(DetailedSettingsWindow, CancelClosesTheWindowAndTheModelKeepsItsSettings) {
     ShownPanel shownPanel;
-    UserSteps user;
-    user.add([] { return activeWindow<DetailedSettingsWindow>() != nullptr; },
-             [] {
-                 DetailedSettingsWindow& window = *activeWindow<DetailedSettingsWindow>();
-                 showPage(window, "MailNotifyJobEnd");
-                 toggle(settingIn(window, "MailNotifyJobEnd"));
-                 QTest::keyClick(&window, Qt::Key_Escape);
-             });
+    WhenShown<DetailedSettingsWindow> user([](DetailedSettingsWindow& window) {
+        showPage(window, "MailNotifyJobEnd");
+        toggle(settingIn(window, "MailNotifyJobEnd"));
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
     shownPanel.click(shownPanel.panel().showDetailedSettingsButton());
-    EXPECT_TRUE(user.finished());
+    EXPECT_TRUE(user.ran());
     EXPECT_FALSE(shownPanel.dialogs().detailedSettingsWindow()->isVisible());
     EXPECT_EQ(modelText(shownPanel.panel(), "MailNotifyJobEnd"), "False");
 }

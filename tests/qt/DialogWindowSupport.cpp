@@ -1,8 +1,5 @@
 #include "DialogWindowSupport.h"
 
-#include <QAbstractButton>
-#include <QTest>
-
 #include <cstdlib>
 #include <filesystem>
 
@@ -15,6 +12,7 @@ void DialogWindowTest::SetUp() {
     OstrinTest::useProductStrings("en");
     ::setenv("XDG_CONFIG_HOME", _home.file("config").c_str(), 1);
     ::setenv("XDG_DATA_HOME", _home.file("data").c_str(), 1);
+    install();
 }
 
 void DialogWindowTest::TearDown() {
@@ -26,6 +24,7 @@ void DialogWindowTest::TearDown() {
 }
 
 void DialogWindowTest::install(std::shared_ptr<PaneTreeResolver> resolver) {
+    _dialogs.reset();
     _dialogs = std::make_unique<QtDialogs>(nullptr, std::move(resolver));
 }
 
@@ -36,15 +35,6 @@ void DialogWindowTest::writeFavorite(const std::string& path, const std::string&
     favorite.setComment(comment);
     favorite.setOptions(options);
     favorite.writeToFile(path);
-}
-
-bool clickButton(QWidget& window, const QString& title) {
-    for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-        if (button->text() != title || !button->isVisible()) continue;
-        QTest::mouseClick(button, Qt::LeftButton);
-        return true;
-    }
-    return false;
 }
 
 }  // namespace QtDialogTest

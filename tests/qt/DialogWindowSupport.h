@@ -2,15 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
-
-#include <functional>
 #include <memory>
 #include <string>
 
+#include "QtTestSupport.h"
 #include "TestSupport.h"
 #include "core/PlistValue.h"
 #include "qt/QtDialogs.h"
@@ -18,31 +13,7 @@
 namespace QtDialogTest {
 
 using namespace ComQuorvantVelmar_Plugin;
-
-/// Runs action once on the first modal window of type T that is shown while the object
-/// lives, from inside that window's event loop, as a user would act on it.
-template <class T>
-class WhenShown {
-public:
-    explicit WhenShown(std::function<void(T&)> action) : _action(std::move(action)) {
-        QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
-        _timer.start(10);
-    }
-    bool ran() const { return _ran; }
-
-private:
-    void poll() {
-        auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
-        if (!window || !window->isVisible()) return;
-        _timer.stop();
-        _ran = true;
-        _action(*window);
-    }
-
-    std::function<void(T&)> _action;
-    QTimer _timer;
-    bool _ran = false;
-};
+using namespace QtWidgetTest;
 
 /// A private home for one test of the Qt dialogs: configuration and data folders in a
 /// temporary folder, the product bundle registered with its English strings, and the Qt
@@ -52,10 +23,9 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Installs the dialogs; the setting tree's nodes are resolved by resolver (the
-    /// process's pane plug-in manager for nullptr).
+    /// Installs the dialogs anew; the setting tree's nodes are resolved by resolver (the
+    /// process's pane plug-in manager for nullptr, as SetUp installs them).
     void install(std::shared_ptr<PaneTreeResolver> resolver = nullptr);
-    QtDialogs& dialogs() const { return *_dialogs; }
 
     /// The product's favorites folder below the private configuration folder.
     std::string favoriteFolder() const { return _home.file("config/Quorvant/OstrinFlow/PDE/favorite"); }
@@ -70,8 +40,5 @@ private:
     OstrinTest::TemporaryDirectory _home;
     std::unique_ptr<QtDialogs> _dialogs;
 };
-
-/// Clicks the button of widget's window titled title; false when there is none.
-bool clickButton(QWidget& window, const QString& title);
 
 }  // namespace QtDialogTest

@@ -10,7 +10,6 @@
 #include <filesystem>
 
 #include "DialogWindowSupport.h"
-#include "QtTestSupport.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteWindowController.h"
 #include "qt/FavoriteWindow.h"
@@ -79,14 +78,13 @@ protected:
     static void retype(TextFieldModelEdit* field, const QString& text) {
         field->setFocus();
         field->selectAll();
-        QtWidgetTest::typeText(field, text);
+        typeText(field, text);
     }
 };
 
 }  // namespace
 
 TEST_F(FavoriteWindowTest, ShowsTheListWithTheFixedEntriesAndTheSelectedRowsFields) {
-    install();
     WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
         EXPECT_EQ(window.windowTitle(), "Manage Favorites");
         EXPECT_EQ(window.favoriteListHeading()->text(), "Favorites");
@@ -118,11 +116,10 @@ TEST_F(FavoriteWindowTest, ShowsTheListWithTheFixedEntriesAndTheSelectedRowsFiel
 }
 
 TEST_F(FavoriteWindowTest, AMouseSelectionIsRefusedWhileTheNameDuplicatesAnother) {
-    install();
     WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
         clickRow(window, "Alpha");
         retype(window.nameField(), "Beta");
-        QtWidgetTest::MessageBoxClicker message("OK");
+        MessageBoxClicker message("OK");
         clickRow(window, "Default Settings");
         EXPECT_TRUE(message.clicked());
         EXPECT_EQ(message.text(), "A favorite with this name already exists. Please choose another name.");
@@ -139,7 +136,6 @@ TEST_F(FavoriteWindowTest, AMouseSelectionIsRefusedWhileTheNameDuplicatesAnother
 TEST_F(FavoriteWindowTest, ImportOpensInTheFavoritesFolderAndListsTheChosenFile) {
     const std::string imported = file("Night Shift.pqz");
     writeFavorite(imported, "from the night shift", {{"JB_DUPLEX", "1"}});
-    install();
     WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
         WhenShown<QFileDialog> picker([&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.directory().absolutePath(), QString::fromStdString(favoriteFolder()));
@@ -161,7 +157,6 @@ TEST_F(FavoriteWindowTest, ImportOpensInTheFavoritesFolderAndListsTheChosenFile)
 
 TEST_F(FavoriteWindowTest, ExportProposesTheFavoritesNameAndWritesItsComment) {
     const std::string target = file("Alpha for the press.pqz");
-    install();
     WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
         clickRow(window, "Alpha");
         retype(window.commentField(), "edited");

@@ -6,7 +6,6 @@
 #include <QTest>
 
 #include "DialogWindowSupport.h"
-#include "QtTestSupport.h"
 #include "favorites/JobNameWinController.h"
 #include "qt/JobNameWindow.h"
 #include "qt/RadioGroupModelWidget.h"
@@ -18,11 +17,6 @@ namespace {
 
 class JobNameWindowTest : public DialogWindowTest {
 protected:
-    void SetUp() override {
-        DialogWindowTest::SetUp();
-        install();
-    }
-
     static void chooseTypedName(JobNameWindow& window) {
         QTest::mouseClick(window.jobNameRadio()->buttons().at(1), Qt::LeftButton);
     }
@@ -62,7 +56,7 @@ TEST_F(JobNameWindowTest, ShowsTheRowsAndEnablesTheNameOnlyForATypedName) {
 TEST_F(JobNameWindowTest, AnEmptyTypedNameIsRefusedInASheetAndTheDialogStaysOpen) {
     WhenShown<JobNameWindow> user([](JobNameWindow& window) {
         chooseTypedName(window);
-        QtWidgetTest::MessageBoxClicker message("OK");
+        MessageBoxClicker message("OK");
         QTest::mouseClick(window.okButton(), Qt::LeftButton);
         EXPECT_TRUE(message.clicked());
         EXPECT_EQ(message.text(), "Please enter a job name of 1 to 255 characters.");
@@ -86,7 +80,7 @@ TEST_F(JobNameWindowTest, ARestoredNameIsShownAndTypingStopsAtTheLimit) {
         EXPECT_TRUE(field->isEnabled());
         field->setFocus();
         field->end(false);
-        QtWidgetTest::typeText(field, QString(250, QLatin1Char('x')));
+        typeText(field, QString(250, QLatin1Char('x')));
         EXPECT_EQ(field->text().size(), 255);
         EXPECT_EQ(JobNameWinController::sharedInstance().jobName().size(), 255u);
         QTest::keyClick(field, Qt::Key_Return);

@@ -95,23 +95,18 @@ TEST(PanelWidget, TrayButtonsOpenTheirSheetsOverThePanelAndTheSettingsReachTheMo
     } cases[] = {{panel.automaticPaperTraySelectionButton(), "PaperColor", false},
                  {panel.bypassPaperTraySelectionButton(), "PaperColorBypass", true}};
     for (const auto& sheetCase : cases) {
-        bool ran = false;
-        UserSteps user;
-        user.add([] { return activeWindow<TraySheetWindow>() != nullptr; },
-                 [&] {
-                     TraySheetWindow& sheet = *activeWindow<TraySheetWindow>();
-                     ran = true;
-                     EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
-                     EXPECT_EQ(sheet.parentWidget(), &shownPanel.window());
-                     EXPECT_FALSE(sheet.windowTitle().isEmpty());
-                     EXPECT_TRUE(choose(settingIn(sheet, sheetCase.colourKey), "Blue"));
-                     if (sheetCase.byEscape)
-                         QTest::keyClick(&sheet, Qt::Key_Escape);
-                     else
-                         QTest::mouseClick(sheet.closeButton(), Qt::LeftButton);
-                 });
+        WhenShown<TraySheetWindow> user([&](TraySheetWindow& sheet) {
+            EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
+            EXPECT_EQ(sheet.parentWidget(), &shownPanel.window());
+            EXPECT_FALSE(sheet.windowTitle().isEmpty());
+            EXPECT_TRUE(choose(settingIn(sheet, sheetCase.colourKey), "Blue"));
+            if (sheetCase.byEscape)
+                QTest::keyClick(&sheet, Qt::Key_Escape);
+            else
+                QTest::mouseClick(sheet.closeButton(), Qt::LeftButton);
+        });
         shownPanel.click(sheetCase.button);
-        EXPECT_TRUE(ran) << sheetCase.colourKey;
+        EXPECT_TRUE(user.ran()) << sheetCase.colourKey;
         EXPECT_EQ(modelText(panel, sheetCase.colourKey), "Blue");
         EXPECT_FALSE(shown(shownPanel.dialogs().traySheetWindow(sheetCase.byEscape)));
     }

@@ -38,8 +38,6 @@ ShownPanel::~ShownPanel() {
     ::unsetenv("XDG_DATA_HOME");
 }
 
-std::string ShownPanel::favoriteFolder() const { return _home.file("config/Quorvant/OstrinFlow/PDE/favorite"); }
-
 void ShownPanel::click(const std::shared_ptr<PanelButton>& button) {
     QPushButton* shown = _widget->buttonFor(button.get());
     ASSERT_TRUE(shown && shown->isVisible() && shown->isEnabled());
@@ -76,22 +74,6 @@ void toggle(VORNUIWidget* setting) {
     auto* box = setting ? qobject_cast<CheckBoxControlWidget*>(setting->body()) : nullptr;
     ASSERT_TRUE(box);
     QTest::mouseClick(box->checkBox(), Qt::LeftButton);
-}
-
-UserSteps::UserSteps() {
-    QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
-    _timer.start(10);
-}
-
-void UserSteps::add(std::function<bool()> when, std::function<void()> action) {
-    _steps.emplace_back(std::move(when), std::move(action));
-}
-
-void UserSteps::poll() {
-    if (_steps.empty() || !_steps.front().first()) return;
-    auto step = std::move(_steps.front());
-    _steps.pop_front();
-    step.second();
 }
 
 }  // namespace QtPanelTest

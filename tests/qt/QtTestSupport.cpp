@@ -97,6 +97,22 @@ AlertScript::AlertScript(std::deque<int> answers)
 
 AlertScript::~AlertScript() { Alerts::setPresenter(nullptr); }
 
+UserSteps::UserSteps() {
+    QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
+    _timer.start(10);
+}
+
+void UserSteps::add(std::function<bool()> when, std::function<void()> action) {
+    _steps.emplace_back(std::move(when), std::move(action));
+}
+
+void UserSteps::poll() {
+    if (_steps.empty() || !_steps.front().first()) return;
+    auto step = std::move(_steps.front());
+    _steps.pop_front();
+    step.second();
+}
+
 MessageBoxClicker::MessageBoxClicker(QString buttonTitle) : _buttonTitle(std::move(buttonTitle)) {
     QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
     _timer.start(10);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -7,6 +8,7 @@
 #include <QWidget>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -83,6 +85,43 @@ public:
 
 private:
     std::shared_ptr<ScriptedAlertPresenter> _presenter;
+};
+
+/// Plays the user's part step by step from inside whatever event loop is running: each
+/// step runs once its condition holds, in the order they were added.
+class UserSteps {
+public:
+    UserSteps();
+    void add(std::function<bool()> when, std::function<void()> action);
+    /// Whether every step ran.
+    bool finished() const { return _steps.empty(); }
+
+private:
+    void poll();
+
+    std::deque<std::pair<std::function<bool()>, std::function<void()>>> _steps;
+    QTimer _timer;
+};
+
+/// The active modal window as T, once it is shown; nullptr otherwise.
+template <class T>
+T* activeWindow() {
+    auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
+    return window && window->isVisible() ? window : nullptr;
+}
+
+/// Runs action once on the first modal window of type T that is shown while the object
+/// lives, from inside that window's event loop, as a user would act on it.
+template <class T>
+class WhenShown {
+public:
+    explicit WhenShown(std::function<void(T&)> action) {
+        _steps.add([] { return activeWindow<T>() != nullptr; }, [action] { action(*activeWindow<T>()); });
+    }
+    bool ran() const { return _steps.finished(); }
+
+private:
+    UserSteps _steps;
 };
 
 /// Watches for the next modal message box and clicks its button titled buttonTitle,

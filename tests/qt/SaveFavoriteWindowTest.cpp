@@ -5,7 +5,6 @@
 #include <QTest>
 
 #include "DialogWindowSupport.h"
-#include "QtTestSupport.h"
 #include "favorites/SaveFavoriteWindowController.h"
 #include "qt/SaveFavoriteWindow.h"
 #include "qt/TextFieldModelEdit.h"
@@ -16,11 +15,6 @@ namespace {
 
 class SaveFavoriteWindowTest : public DialogWindowTest {
 protected:
-    void SetUp() override {
-        DialogWindowTest::SetUp();
-        install();
-    }
-
     std::string name = "Draft";
     std::string comment;
 };
@@ -35,10 +29,10 @@ TEST_F(SaveFavoriteWindowTest, ShowsTheProposedNameWithTheFocusAndSavesWhatWasTy
         EXPECT_EQ(window.commentField()->placeholderText(), "Up to the maximum length");
         EXPECT_EQ(window.focusWidget(), window.nameField());
         EXPECT_EQ(window.nameField()->selectedText(), "Draft");
-        QtWidgetTest::typeText(window.nameField(), QString::fromUtf8("Ölkreide Ölkreide Ölkreide"));
+        typeText(window.nameField(), QString::fromUtf8("Ölkreide Ölkreide Ölkreide"));
         EXPECT_EQ(window.nameField()->text(), QString::fromUtf8("Ölkreide Ölkreide Ölkrei"));
         window.commentField()->setFocus();
-        QtWidgetTest::typeText(window.commentField(), "Coated, duplex");
+        typeText(window.commentField(), "Coated, duplex");
         QTest::mouseClick(window.saveButton(), Qt::LeftButton);
     });
     EXPECT_TRUE(ShowSaveFavoriteModalDialog(name, comment));
@@ -50,9 +44,9 @@ TEST_F(SaveFavoriteWindowTest, ShowsTheProposedNameWithTheFocusAndSavesWhatWasTy
 TEST_F(SaveFavoriteWindowTest, ARefusedNameIsSaidInASheetAndTakesTheFocusBack) {
     WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
         window.nameField()->selectAll();
-        QtWidgetTest::typeText(window.nameField(), "A/B");
+        typeText(window.nameField(), "A/B");
         window.commentField()->setFocus();
-        QtWidgetTest::MessageBoxClicker message("OK");
+        MessageBoxClicker message("OK");
         QTest::mouseClick(window.saveButton(), Qt::LeftButton);
         EXPECT_TRUE(message.clicked());
         EXPECT_TRUE(message.text().startsWith("A favorite name must have 1 to 27 bytes")) << message.text().toStdString();
