@@ -113,30 +113,25 @@ void UserSteps::poll() {
     step.second();
 }
 
-MessageBoxClicker::MessageBoxClicker(QString buttonTitle) : _buttonTitle(std::move(buttonTitle)) {
-    QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
-    _timer.start(10);
-}
+MessageBoxClicker::MessageBoxClicker(QString buttonTitle)
+    : _shown([this, title = std::move(buttonTitle)](QMessageBox& box) { answer(box, title); }) {}
 
-void MessageBoxClicker::poll() {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) return;
-    _timer.stop();
-    _text = box->text();
-    _informativeText = box->informativeText();
-    _windowModal = box->windowModality() == Qt::WindowModal;
-    _parentWindow = box->parentWidget();
+void MessageBoxClicker::answer(QMessageBox& box, const QString& buttonTitle) {
+    _text = box.text();
+    _informativeText = box.informativeText();
+    _windowModal = box.windowModality() == Qt::WindowModal;
+    _parentWindow = box.parentWidget();
     QAbstractButton* target = nullptr;
-    for (QAbstractButton* button : box->buttons()) {
+    for (QAbstractButton* button : box.buttons()) {
         _buttons.append(button->text());
-        if (button->text() == _buttonTitle) target = button;
+        if (button->text() == buttonTitle) target = button;
     }
-    if (_buttonTitle.isEmpty()) {
-        QTest::keyClick(box, Qt::Key_Escape);
+    if (buttonTitle.isEmpty()) {
+        QTest::keyClick(&box, Qt::Key_Escape);
         return;
     }
     if (!target) {
-        box->reject();
+        box.reject();
         return;
     }
     QTest::mouseClick(target, Qt::LeftButton);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -138,16 +139,15 @@ public:
     QWidget* parentWindow() const { return _parentWindow; }
 
 private:
-    void poll();
+    void answer(QMessageBox& box, const QString& buttonTitle);
 
-    QString _buttonTitle;
-    QTimer _timer;
     bool _clicked = false;
     bool _windowModal = false;
     QString _text;
     QString _informativeText;
     QStringList _buttons;
     QPointer<QWidget> _parentWindow;
+    WhenShown<QMessageBox> _shown;
 };
 
 }  // namespace QtWidgetTest
