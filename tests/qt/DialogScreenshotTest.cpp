@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "DialogWindowSupport.h"
+#include "QtTestSupport.h"
 #include "core/AboutBox.h"
 #include "core/LocalizedString.h"
 #include "favorites/FavoriteWindowController.h"
@@ -15,7 +15,7 @@
 #include "qt/QtScreenshot.h"
 #include "qt/SaveFavoriteWindow.h"
 
-using namespace QtDialogTest;
+using namespace QtWidgetTest;
 
 namespace {
 

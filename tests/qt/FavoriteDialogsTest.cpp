@@ -7,7 +7,7 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "DialogWindowSupport.h"
+#include "QtTestSupport.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteWindowController.h"
 #include "favorites/JobNameWinController.h"
@@ -20,7 +20,7 @@
 #include "qt/SaveFavoriteWindow.h"
 #include "qt/TextFieldModelEdit.h"
 
-using namespace QtDialogTest;
+using namespace QtWidgetTest;
 
 namespace {
 

@@ -8,8 +8,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <cstdlib>
-
 #include "pde/TarnPDEByCocoa.h"
 #include "qt/CheckBoxControlWidget.h"
 #include "qt/PopupControlWidget.h"
@@ -17,8 +15,6 @@
 namespace QtPanelTest {
 
 ShownPanel::ShownPanel(const std::string& language) : _language(language) {
-    ::setenv("XDG_CONFIG_HOME", _home.file("config").c_str(), 1);
-    ::setenv("XDG_DATA_HOME", _home.file("data").c_str(), 1);
     _scope = std::make_unique<PanelTest::PanelScope>();
     _window = std::make_unique<QWidget>();
     _widget = new PanelWidget(panel(), _window.get());
@@ -34,8 +30,6 @@ ShownPanel::~ShownPanel() {
     _dialogs.reset();
     _window.reset();
     _scope.reset();
-    ::unsetenv("XDG_CONFIG_HOME");
-    ::unsetenv("XDG_DATA_HOME");
 }
 
 void ShownPanel::click(const std::shared_ptr<PanelButton>& button) {

@@ -6,10 +6,8 @@
 #include <string>
 
 #include "QtTestSupport.h"
-#include "TestSupport.h"
 #include "pde/PanelTestSupport.h"
 #include "qt/PanelWidget.h"
-#include "qt/QtDialogs.h"
 
 namespace QtPanelTest {
 
@@ -35,7 +33,7 @@ public:
     void click(const std::shared_ptr<PanelButton>& button);
 
 private:
-    OstrinTest::TemporaryDirectory _home;
+    PrivateHome _home;
     QtWidgetTest::Language _language;
     std::unique_ptr<PanelTest::PanelScope> _scope;
     std::unique_ptr<QWidget> _window;

@@ -101,6 +101,7 @@ protected:
     void TearDown() override {
         PanePlugInMgr::setSharedInstance(nullptr);
         Alerts::setPresenter(nullptr);
+        FileChoosers::setPresenter(nullptr);
         SetNSBundleForPrincipalBundle(nullptr);
         SetNSBundleForLocalizedString(nullptr);
     }
@@ -122,24 +123,14 @@ protected:
     const std::string output = folder.file("out.pdf");
 };
 
-// A panel of the product bundle over host, as the gui command opens it.
-class PanelOver {
-public:
-    explicit PanelOver(PdeHost& host) {
-        PanePlugInMgr::setSharedInstance(nullptr);
-        _panel = std::make_shared<TarnPDEByCocoa>(host, productBundle());
-        _panel->restoreValuesAndReturnError();
+// The gui command's window over a panel of the product bundle.
+class PanelWindowTest : public PrintDialogTab {
+protected:
+    std::shared_ptr<TarnPDEByCocoa> panelOver(PdeHost& host) {
+        auto panel = std::make_shared<TarnPDEByCocoa>(host, productBundle());
+        panel->restoreValuesAndReturnError();
+        return panel;
     }
-    ~PanelOver() {
-        _panel.reset();
-        PanePlugInMgr::setSharedInstance(nullptr);
-        SetNSBundleForPrincipalBundle(nullptr);
-        SetNSBundleForLocalizedString(nullptr);
-    }
-    TarnPDEByCocoa& operator*() const { return *_panel; }
-
-private:
-    std::shared_ptr<TarnPDEByCocoa> _panel;
 };
 
 }  // namespace
@@ -231,9 +222,9 @@ TEST_F(PrintDialogTab, JobPrintedThroughTheDialogCarriesThePanelsChoices) {
     EXPECT_EQ(attributes[PrintSettingsTicket::customKey("QZSpecificJobName")], "Auto");
 }
 
-TEST(PanelWindow, WithoutAQueuePrintAndSaveAreUnavailableAndTheNoteSaysWhy) {
+TEST_F(PanelWindowTest, WithoutAQueuePrintAndSaveAreUnavailableAndTheNoteSaysWhy) {
     auto host = PpdFileHost::open(SamplePpd);
-    PanelOver panel(*host);
+    auto panel = panelOver(*host);
     PanelWindow window(*panel, *host, std::nullopt, SamplePpd);
     EXPECT_FALSE(window.printButton()->isEnabled());
     EXPECT_FALSE(window.saveDefaultsButton()->isEnabled());
@@ -241,7 +232,7 @@ TEST(PanelWindow, WithoutAQueuePrintAndSaveAreUnavailableAndTheNoteSaysWhy) {
     EXPECT_TRUE(window.noteText().contains(QString::fromStdString(SamplePpd)));
 }
 
-TEST(PanelWindow, PrintSubmitsTheChosenFileWithThePanelsSettings) {
+TEST_F(PanelWindowTest, PrintSubmitsTheChosenFileWithThePanelsSettings) {
     OstrinTest::CupsTestServer cupsd;
     if (!cupsd.unavailableReason().empty()) GTEST_SKIP() << "no private cupsd for this test: " << cupsd.unavailableReason();
     ASSERT_TRUE(cupsd.addQueue("press", SamplePpd));
@@ -249,12 +240,11 @@ TEST(PanelWindow, PrintSubmitsTheChosenFileWithThePanelsSettings) {
     cupsSetServer(cupsd.serverName().c_str());
     CupsQueueHost::Opening opening = CupsQueueHost::open("press");
     ASSERT_TRUE(opening.host) << opening.outcome.message;
-    PanelOver panel(*opening.host);
+    auto panel = panelOver(*opening.host);
     PanelWindow window(*panel, *opening.host, "press", SamplePpd);
     auto files = std::make_shared<ScriptedFileChooserPresenter>();
     FileChoosers::setPresenter(files);
-    AlertScript alerts;
-    OstrinTest::TemporaryDirectory folder;
+    Alerts::setPresenter(alerts);
     OstrinTest::writeFile(folder.file("page.txt"), "Ostrin Flow test page\n");
     files->queue(folder.file("page.txt"));
     window.show();
@@ -262,7 +252,7 @@ TEST(PanelWindow, PrintSubmitsTheChosenFileWithThePanelsSettings) {
 
     window.printButton()->click();
     cupsSetServer(nullptr);
-    ASSERT_TRUE(window.printedJobId()) << (alerts.asked().empty() ? "" : alerts.asked().front().informativeText);
+    ASSERT_TRUE(window.printedJobId()) << (alerts->asked().empty() ? "" : alerts->asked().front().informativeText);
     EXPECT_EQ(window.result(), QDialog::Accepted);
     auto attributes = client.jobAttributes(*window.printedJobId());
     EXPECT_EQ(attributes["StapleMode"], "BottomEdge");

@@ -9,12 +9,16 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 
 #include "TestSupport.h"
 #include "core/LocalizedString.h"
 #include "core/PlistIO.h"
 #include "core/PreferredLanguages.h"
+#include "favorites/FavoriteFile.h"
+#include "favorites/FavoriteTestSupport.h"
 #include "settings_ui/NotifyUnit.h"
 
 namespace QtWidgetTest {
@@ -89,6 +93,41 @@ Language::Language(const std::string& language) {
 }
 
 Language::~Language() { PreferredLanguages::setFirst("en"); }
+
+PrivateHome::PrivateHome() {
+    ::setenv("XDG_CONFIG_HOME", _folder.file("config").c_str(), 1);
+    ::setenv("XDG_DATA_HOME", _folder.file("data").c_str(), 1);
+}
+
+PrivateHome::~PrivateHome() {
+    ::unsetenv("XDG_CONFIG_HOME");
+    ::unsetenv("XDG_DATA_HOME");
+}
+
+void DialogWindowTest::SetUp() {
+    OstrinTest::useProductStrings("en");
+    install();
+}
+
+void DialogWindowTest::TearDown() {
+    _dialogs.reset();
+    SetNSBundleForPrincipalBundle(nullptr);
+    SetNSBundleForLocalizedString(nullptr);
+}
+
+void DialogWindowTest::install(std::shared_ptr<PaneTreeResolver> resolver) {
+    _dialogs.reset();
+    _dialogs = std::make_unique<QtDialogs>(nullptr, std::move(resolver));
+}
+
+void DialogWindowTest::writeFavorite(const std::string& path, const std::string& comment,
+                                     const PlistDictionary& options) {
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    FavoriteFile favorite;
+    favorite.setComment(comment);
+    favorite.setOptions(options);
+    favorite.writeToFile(path);
+}
 
 AlertScript::AlertScript(std::deque<int> answers)
     : _presenter(std::make_shared<ScriptedAlertPresenter>(std::move(answers))) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
@@ -13,10 +15,12 @@
 #include <memory>
 #include <string>
 
+#include "TestSupport.h"
 #include "core/Alert.h"
 #include "core/Bundle.h"
 #include "core/PlistValue.h"
 #include "qt/ControlBodyWidget.h"
+#include "qt/QtDialogs.h"
 #include "qt/VORNUIWidget.h"
 #include "settings_ui/NotificationCenter.h"
 #include "settings_ui/VORNUI.h"
@@ -75,6 +79,46 @@ class Language {
 public:
     explicit Language(const std::string& language);
     ~Language();
+};
+
+/// A private home for the life of the object: the configuration and data folders in a
+/// temporary folder.
+class PrivateHome {
+public:
+    PrivateHome();
+    ~PrivateHome();
+    PrivateHome(const PrivateHome&) = delete;
+    PrivateHome& operator=(const PrivateHome&) = delete;
+    /// A path in the home.
+    std::string file(const std::string& name) const { return _folder.file(name); }
+
+private:
+    OstrinTest::TemporaryDirectory _folder;
+};
+
+/// A private home for one test of the Qt dialogs, the product bundle registered with its
+/// English strings, and the Qt dialogs installed as the GUI installs them.
+class DialogWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Installs the dialogs anew; the setting tree's nodes are resolved by resolver (the
+    /// process's pane plug-in manager for nullptr, as SetUp installs them).
+    void install(std::shared_ptr<PaneTreeResolver> resolver = nullptr);
+
+    /// The product's favorites folder below the private configuration folder.
+    std::string favoriteFolder() const { return _home.file("config/Quorvant/OstrinFlow/PDE/favorite"); }
+    /// The path of the favorite name in the favorites folder.
+    std::string favorite(const std::string& name) const { return favoriteFolder() + "/" + name + ".pqz"; }
+    /// A path in the private home, outside the favorites folder.
+    std::string file(const std::string& name) const { return _home.file(name); }
+    /// Writes a favorite file with comment and options (input-manager form) at path.
+    static void writeFavorite(const std::string& path, const std::string& comment, const PlistDictionary& options);
+
+private:
+    PrivateHome _home;
+    std::unique_ptr<QtDialogs> _dialogs;
 };
 
 /// Answers the engine's questions from a script for the life of the object.
