@@ -47,7 +47,6 @@ public:
     explicit ShownControl(std::shared_ptr<VORNUI> control);
     VORNUIWidget& view() const { return *_view; }
     VORNUI& control() const { return *_view->control(); }
-    QWidget& window() { return _window; }
     /// The widget of the control's type, as type T; nullptr when it is of another type.
     template <class T>
     T* body() const { return qobject_cast<T*>(_view->body()); }
@@ -68,7 +67,6 @@ public:
     std::vector<std::string> names() const;
     /// The "Paramater" of the last post; "" when it had none.
     std::string lastParameter() const;
-    void clear() { _received.clear(); }
 
 private:
     std::vector<Notification> _received;
