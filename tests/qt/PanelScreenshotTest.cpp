@@ -42,16 +42,13 @@ void save(QWidget& window, const std::string& name) {
 template <class Window>
 void saveOpened(ShownPanel& shown, const std::shared_ptr<PanelButton>& button, const std::string& name,
                 const std::function<void(Window&)>& more = {}) {
-    UserSteps user;
-    user.add([] { return activeWindow<Window>() != nullptr; },
-             [&] {
-                 Window& window = *activeWindow<Window>();
-                 save(window, name);
-                 if (more) more(window);
-                 QTest::keyClick(&window, Qt::Key_Escape);
-             });
+    WhenShown<Window> user([&](Window& window) {
+        save(window, name);
+        if (more) more(window);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
     shown.click(button);
-    EXPECT_TRUE(user.finished()) << name;
+    EXPECT_TRUE(user.ran()) << name;
 }
 
 void saveLanguage(const std::string& language) {

@@ -8,8 +8,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <cstdlib>
-
 #include "pde/TarnPDEByCocoa.h"
 #include "qt/CheckBoxControlWidget.h"
 #include "qt/PopupControlWidget.h"
@@ -17,8 +15,6 @@
 namespace QtPanelTest {
 
 ShownPanel::ShownPanel(const std::string& language) : _language(language) {
-    ::setenv("XDG_CONFIG_HOME", _home.file("config").c_str(), 1);
-    ::setenv("XDG_DATA_HOME", _home.file("data").c_str(), 1);
     _scope = std::make_unique<PanelTest::PanelScope>();
     _window = std::make_unique<QWidget>();
     _widget = new PanelWidget(panel(), _window.get());
@@ -34,11 +30,7 @@ ShownPanel::~ShownPanel() {
     _dialogs.reset();
     _window.reset();
     _scope.reset();
-    ::unsetenv("XDG_CONFIG_HOME");
-    ::unsetenv("XDG_DATA_HOME");
 }
-
-std::string ShownPanel::favoriteFolder() const { return _home.file("config/Quorvant/OstrinFlow/PDE/favorite"); }
 
 void ShownPanel::click(const std::shared_ptr<PanelButton>& button) {
     QPushButton* shown = _widget->buttonFor(button.get());
@@ -76,22 +68,6 @@ void toggle(VORNUIWidget* setting) {
     auto* box = setting ? qobject_cast<CheckBoxControlWidget*>(setting->body()) : nullptr;
     ASSERT_TRUE(box);
     QTest::mouseClick(box->checkBox(), Qt::LeftButton);
-}
-
-UserSteps::UserSteps() {
-    QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
-    _timer.start(10);
-}
-
-void UserSteps::add(std::function<bool()> when, std::function<void()> action) {
-    _steps.emplace_back(std::move(when), std::move(action));
-}
-
-void UserSteps::poll() {
-    if (_steps.empty() || !_steps.front().first()) return;
-    auto step = std::move(_steps.front());
-    _steps.pop_front();
-    step.second();
 }
 
 }  // namespace QtPanelTest

@@ -1,25 +1,18 @@
 #pragma once
 
-#include <QApplication>
-#include <QPointer>
-#include <QString>
-#include <QTimer>
 #include <QWidget>
 
-#include <deque>
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "QtTestSupport.h"
-#include "TestSupport.h"
 #include "pde/PanelTestSupport.h"
 #include "qt/PanelWidget.h"
-#include "qt/QtDialogs.h"
 
 namespace QtPanelTest {
 
 using namespace ComQuorvantVelmar_Plugin;
+using namespace QtWidgetTest;
 
 /// The product's panel over an in-memory host with the sample PPD, in a window as a host
 /// shows it: the panel widget, and every window the panel opens a sheet of that window.
@@ -36,13 +29,11 @@ public:
     PanelWidget& widget() { return *_widget; }
     QWidget& window() { return *_window; }
     QtDialogs& dialogs() { return *_dialogs; }
-    /// The private home's favorites folder.
-    std::string favoriteFolder() const;
     /// Clicks the Qt button of one of the panel's buttons.
     void click(const std::shared_ptr<PanelButton>& button);
 
 private:
-    OstrinTest::TemporaryDirectory _home;
+    PrivateHome _home;
     QtWidgetTest::Language _language;
     std::unique_ptr<PanelTest::PanelScope> _scope;
     std::unique_ptr<QWidget> _window;
@@ -60,28 +51,5 @@ VORNUIWidget* settingIn(const QWidget& widget, const std::string& key);
 bool choose(VORNUIWidget* setting, const QString& text);
 /// Clicks the check box of the setting shown by setting.
 void toggle(VORNUIWidget* setting);
-
-/// Plays the user's part step by step from inside whatever event loop is running: each
-/// step runs once its condition holds, in the order they were added.
-class UserSteps {
-public:
-    UserSteps();
-    void add(std::function<bool()> when, std::function<void()> action);
-    /// Whether every step ran.
-    bool finished() const { return _steps.empty(); }
-
-private:
-    void poll();
-
-    std::deque<std::pair<std::function<bool()>, std::function<void()>>> _steps;
-    QTimer _timer;
-};
-
-/// The active modal window as T, once it is shown; nullptr otherwise.
-template <class T>
-T* activeWindow() {
-    auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
-    return window && window->isVisible() ? window : nullptr;
-}
 
 }  // namespace QtPanelTest

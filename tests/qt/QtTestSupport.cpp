@@ -9,12 +9,16 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 
 #include "TestSupport.h"
 #include "core/LocalizedString.h"
 #include "core/PlistIO.h"
 #include "core/PreferredLanguages.h"
+#include "favorites/FavoriteFile.h"
+#include "favorites/FavoriteTestSupport.h"
 #include "settings_ui/NotifyUnit.h"
 
 namespace QtWidgetTest {
@@ -90,6 +94,41 @@ Language::Language(const std::string& language) {
 
 Language::~Language() { PreferredLanguages::setFirst("en"); }
 
+PrivateHome::PrivateHome() {
+    ::setenv("XDG_CONFIG_HOME", _folder.file("config").c_str(), 1);
+    ::setenv("XDG_DATA_HOME", _folder.file("data").c_str(), 1);
+}
+
+PrivateHome::~PrivateHome() {
+    ::unsetenv("XDG_CONFIG_HOME");
+    ::unsetenv("XDG_DATA_HOME");
+}
+
+void DialogWindowTest::SetUp() {
+    OstrinTest::useProductStrings("en");
+    install();
+}
+
+void DialogWindowTest::TearDown() {
+    _dialogs.reset();
+    SetNSBundleForPrincipalBundle(nullptr);
+    SetNSBundleForLocalizedString(nullptr);
+}
+
+void DialogWindowTest::install(std::shared_ptr<PaneTreeResolver> resolver) {
+    _dialogs.reset();
+    _dialogs = std::make_unique<QtDialogs>(nullptr, std::move(resolver));
+}
+
+void DialogWindowTest::writeFavorite(const std::string& path, const std::string& comment,
+                                     const PlistDictionary& options) {
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    FavoriteFile favorite;
+    favorite.setComment(comment);
+    favorite.setOptions(options);
+    favorite.writeToFile(path);
+}
+
 AlertScript::AlertScript(std::deque<int> answers)
     : _presenter(std::make_shared<ScriptedAlertPresenter>(std::move(answers))) {
     Alerts::setPresenter(_presenter);
@@ -97,30 +136,41 @@ AlertScript::AlertScript(std::deque<int> answers)
 
 AlertScript::~AlertScript() { Alerts::setPresenter(nullptr); }
 
-MessageBoxClicker::MessageBoxClicker(QString buttonTitle) : _buttonTitle(std::move(buttonTitle)) {
+UserSteps::UserSteps() {
     QObject::connect(&_timer, &QTimer::timeout, [this] { poll(); });
     _timer.start(10);
 }
 
-void MessageBoxClicker::poll() {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) return;
-    _timer.stop();
-    _text = box->text();
-    _informativeText = box->informativeText();
-    _windowModal = box->windowModality() == Qt::WindowModal;
-    _parentWindow = box->parentWidget();
+void UserSteps::add(std::function<bool()> when, std::function<void()> action) {
+    _steps.emplace_back(std::move(when), std::move(action));
+}
+
+void UserSteps::poll() {
+    if (_steps.empty() || !_steps.front().first()) return;
+    auto step = std::move(_steps.front());
+    _steps.pop_front();
+    step.second();
+}
+
+MessageBoxClicker::MessageBoxClicker(QString buttonTitle)
+    : _shown([this, title = std::move(buttonTitle)](QMessageBox& box) { answer(box, title); }) {}
+
+void MessageBoxClicker::answer(QMessageBox& box, const QString& buttonTitle) {
+    _text = box.text();
+    _informativeText = box.informativeText();
+    _windowModal = box.windowModality() == Qt::WindowModal;
+    _parentWindow = box.parentWidget();
     QAbstractButton* target = nullptr;
-    for (QAbstractButton* button : box->buttons()) {
+    for (QAbstractButton* button : box.buttons()) {
         _buttons.append(button->text());
-        if (button->text() == _buttonTitle) target = button;
+        if (button->text() == buttonTitle) target = button;
     }
-    if (_buttonTitle.isEmpty()) {
-        QTest::keyClick(box, Qt::Key_Escape);
+    if (buttonTitle.isEmpty()) {
+        QTest::keyClick(&box, Qt::Key_Escape);
         return;
     }
     if (!target) {
-        box->reject();
+        box.reject();
         return;
     }
     QTest::mouseClick(target, Qt::LeftButton);

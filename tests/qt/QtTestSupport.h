@@ -1,5 +1,9 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -7,13 +11,16 @@
 #include <QWidget>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 
+#include "TestSupport.h"
 #include "core/Alert.h"
 #include "core/Bundle.h"
 #include "core/PlistValue.h"
 #include "qt/ControlBodyWidget.h"
+#include "qt/QtDialogs.h"
 #include "qt/VORNUIWidget.h"
 #include "settings_ui/NotificationCenter.h"
 #include "settings_ui/VORNUI.h"
@@ -40,7 +47,6 @@ public:
     explicit ShownControl(std::shared_ptr<VORNUI> control);
     VORNUIWidget& view() const { return *_view; }
     VORNUI& control() const { return *_view->control(); }
-    QWidget& window() { return _window; }
     /// The widget of the control's type, as type T; nullptr when it is of another type.
     template <class T>
     T* body() const { return qobject_cast<T*>(_view->body()); }
@@ -61,7 +67,6 @@ public:
     std::vector<std::string> names() const;
     /// The "Paramater" of the last post; "" when it had none.
     std::string lastParameter() const;
-    void clear() { _received.clear(); }
 
 private:
     std::vector<Notification> _received;
@@ -74,6 +79,46 @@ public:
     ~Language();
 };
 
+/// A private home for the life of the object: the configuration and data folders in a
+/// temporary folder.
+class PrivateHome {
+public:
+    PrivateHome();
+    ~PrivateHome();
+    PrivateHome(const PrivateHome&) = delete;
+    PrivateHome& operator=(const PrivateHome&) = delete;
+    /// A path in the home.
+    std::string file(const std::string& name) const { return _folder.file(name); }
+
+private:
+    OstrinTest::TemporaryDirectory _folder;
+};
+
+/// A private home for one test of the Qt dialogs, the product bundle registered with its
+/// English strings, and the Qt dialogs installed as the GUI installs them.
+class DialogWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Installs the dialogs anew; the setting tree's nodes are resolved by resolver (the
+    /// process's pane plug-in manager for nullptr, as SetUp installs them).
+    void install(std::shared_ptr<PaneTreeResolver> resolver = nullptr);
+
+    /// The product's favorites folder below the private configuration folder.
+    std::string favoriteFolder() const { return _home.file("config/Quorvant/OstrinFlow/PDE/favorite"); }
+    /// The path of the favorite name in the favorites folder.
+    std::string favorite(const std::string& name) const { return favoriteFolder() + "/" + name + ".pqz"; }
+    /// A path in the private home, outside the favorites folder.
+    std::string file(const std::string& name) const { return _home.file(name); }
+    /// Writes a favorite file with comment and options (input-manager form) at path.
+    static void writeFavorite(const std::string& path, const std::string& comment, const PlistDictionary& options);
+
+private:
+    PrivateHome _home;
+    std::unique_ptr<QtDialogs> _dialogs;
+};
+
 /// Answers the engine's questions from a script for the life of the object.
 class AlertScript {
 public:
@@ -83,6 +128,43 @@ public:
 
 private:
     std::shared_ptr<ScriptedAlertPresenter> _presenter;
+};
+
+/// Plays the user's part step by step from inside whatever event loop is running: each
+/// step runs once its condition holds, in the order they were added.
+class UserSteps {
+public:
+    UserSteps();
+    void add(std::function<bool()> when, std::function<void()> action);
+    /// Whether every step ran.
+    bool finished() const { return _steps.empty(); }
+
+private:
+    void poll();
+
+    std::deque<std::pair<std::function<bool()>, std::function<void()>>> _steps;
+    QTimer _timer;
+};
+
+/// The active modal window as T, once it is shown; nullptr otherwise.
+template <class T>
+T* activeWindow() {
+    auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
+    return window && window->isVisible() ? window : nullptr;
+}
+
+/// Runs action once on the first modal window of type T that is shown while the object
+/// lives, from inside that window's event loop, as a user would act on it.
+template <class T>
+class WhenShown {
+public:
+    explicit WhenShown(std::function<void(T&)> action) {
+        _steps.add([] { return activeWindow<T>() != nullptr; }, [action] { action(*activeWindow<T>()); });
+    }
+    bool ran() const { return _steps.finished(); }
+
+private:
+    UserSteps _steps;
 };
 
 /// Watches for the next modal message box and clicks its button titled buttonTitle,
@@ -99,16 +181,15 @@ public:
     QWidget* parentWindow() const { return _parentWindow; }
 
 private:
-    void poll();
+    void answer(QMessageBox& box, const QString& buttonTitle);
 
-    QString _buttonTitle;
-    QTimer _timer;
     bool _clicked = false;
     bool _windowModal = false;
     QString _text;
     QString _informativeText;
     QStringList _buttons;
     QPointer<QWidget> _parentWindow;
+    WhenShown<QMessageBox> _shown;
 };
 
 }  // namespace QtWidgetTest

@@ -107,14 +107,11 @@ TEST(NumberFieldWidget, StepperStepsFromTheTypedNumberInTheUsersForm) {
 TEST(TextFieldWidget, PageListsFollowTheTypingRule) {
     ShownControl shown(buildControl("PageRange"));
     QLineEdit* field = fieldOf(shown);
-    typeOver(field, "1-3,5");
-    EXPECT_EQ(field->text(), "1-3,5");
-    typeOver(field, "0-3");
-    EXPECT_EQ(field->text(), "-3");
-    typeOver(field, "1--,,2");
-    EXPECT_EQ(field->text(), "1-,2");
-    typeOver(field, "1,2,3,4,5,6,7,8");
-    EXPECT_EQ(field->text(), "1,2,3,4,5,6,");
+    for (const auto& [typed, kept] : {std::pair{"1-3,5", "1-3,5"}, {"0-3", "-3"}, {"1--,,2", "1-,2"},
+                                      {"1,2,3,4,5,6,7,8", "1,2,3,4,5,6,"}}) {
+        typeOver(field, typed);
+        EXPECT_EQ(field->text(), kept);
+    }
     QTest::keyClick(field, Qt::Key_Home);
     QTest::keyClick(field, Qt::Key_Delete);
     EXPECT_EQ(field->text(), "1,2,3,4,5,6,");

@@ -2,25 +2,25 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
-#include <filesystem>
-
-#include "DialogWindowSupport.h"
 #include "QtTestSupport.h"
 #include "favorites/FavoriteFile.h"
 #include "favorites/FavoriteWindowController.h"
+#include "favorites/JobNameWinController.h"
+#include "favorites/SaveFavoriteWindowController.h"
 #include "qt/FavoriteWindow.h"
+#include "qt/JobNameWindow.h"
 #include "qt/ListModelWidget.h"
-#include "qt/OutlineItemModel.h"
 #include "qt/OutlineViewWidget.h"
+#include "qt/RadioGroupModelWidget.h"
+#include "qt/SaveFavoriteWindow.h"
 #include "qt/TextFieldModelEdit.h"
 
-using namespace QtDialogTest;
-namespace fs = std::filesystem;
+using namespace QtWidgetTest;
 
 namespace {
 
@@ -79,14 +79,30 @@ protected:
     static void retype(TextFieldModelEdit* field, const QString& text) {
         field->setFocus();
         field->selectAll();
-        QtWidgetTest::typeText(field, text);
+        typeText(field, text);
     }
+};
+
+class JobNameWindowTest : public DialogWindowTest {
+protected:
+    static void chooseTypedName(JobNameWindow& window) {
+        QTest::mouseClick(window.jobNameRadio()->buttons().at(1), Qt::LeftButton);
+    }
+
+    std::string specific = "Auto";
+    std::string escaped = "untouched";
+    std::string name;
+};
+
+class SaveFavoriteWindowTest : public DialogWindowTest {
+protected:
+    std::string name = "Draft";
+    std::string comment;
 };
 
 }  // namespace
 
 TEST_F(FavoriteWindowTest, ShowsTheListWithTheFixedEntriesAndTheSelectedRowsFields) {
-    install();
     WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
         EXPECT_EQ(window.windowTitle(), "Manage Favorites");
         EXPECT_EQ(window.favoriteListHeading()->text(), "Favorites");
@@ -118,11 +134,10 @@ TEST_F(FavoriteWindowTest, ShowsTheListWithTheFixedEntriesAndTheSelectedRowsFiel
 }
 
 TEST_F(FavoriteWindowTest, AMouseSelectionIsRefusedWhileTheNameDuplicatesAnother) {
-    install();
     WhenShown<FavoriteWindow> user([](FavoriteWindow& window) {
         clickRow(window, "Alpha");
         retype(window.nameField(), "Beta");
-        QtWidgetTest::MessageBoxClicker message("OK");
+        MessageBoxClicker message("OK");
         clickRow(window, "Default Settings");
         EXPECT_TRUE(message.clicked());
         EXPECT_EQ(message.text(), "A favorite with this name already exists. Please choose another name.");
@@ -139,7 +154,6 @@ TEST_F(FavoriteWindowTest, AMouseSelectionIsRefusedWhileTheNameDuplicatesAnother
 TEST_F(FavoriteWindowTest, ImportOpensInTheFavoritesFolderAndListsTheChosenFile) {
     const std::string imported = file("Night Shift.pqz");
     writeFavorite(imported, "from the night shift", {{"JB_DUPLEX", "1"}});
-    install();
     WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
         WhenShown<QFileDialog> picker([&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.directory().absolutePath(), QString::fromStdString(favoriteFolder()));
@@ -161,7 +175,6 @@ TEST_F(FavoriteWindowTest, ImportOpensInTheFavoritesFolderAndListsTheChosenFile)
 
 TEST_F(FavoriteWindowTest, ExportProposesTheFavoritesNameAndWritesItsComment) {
     const std::string target = file("Alpha for the press.pqz");
-    install();
     WhenShown<FavoriteWindow> user([&](FavoriteWindow& window) {
         clickRow(window, "Alpha");
         retype(window.commentField(), "edited");
@@ -213,4 +226,105 @@ TEST_F(FavoriteWindowTest, TheSettingTreeShowsThePanesAndOpensWhereSettingsDiffe
     });
     EXPECT_FALSE(show());
     EXPECT_TRUE(user.ran());
+}
+
+TEST_F(JobNameWindowTest, ShowsTheRowsAndEnablesTheNameOnlyForATypedName) {
+    WhenShown<JobNameWindow> user([](JobNameWindow& window) {
+        EXPECT_EQ(window.windowTitle(), "Job Name");
+        const auto& rows = window.jobNameRadio()->buttons();
+        ASSERT_EQ(rows.size(), 2u);
+        EXPECT_EQ(rows[0]->text(), "Auto");
+        EXPECT_EQ(rows[1]->text(), "Enter a name");
+        EXPECT_TRUE(rows[0]->isChecked());
+        EXPECT_EQ(window.jobNameLabel()->text(), "Job name");
+        EXPECT_FALSE(window.jobNameField()->isEnabled());
+        EXPECT_FALSE(window.jobNameLabel()->isEnabled());
+        EXPECT_EQ(window.jobNameField()->placeholderText(), "Up to the maximum length");
+        EXPECT_EQ(window.jobNameField()->toolTip(), "Up to the maximum length");
+        chooseTypedName(window);
+        EXPECT_TRUE(rows[1]->isChecked());
+        EXPECT_TRUE(window.jobNameField()->isEnabled());
+        EXPECT_TRUE(window.jobNameLabel()->isEnabled());
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(ShowJobNameModalDialog(specific, &escaped, name));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(specific, "Auto");
+    EXPECT_EQ(name, "");
+}
+
+TEST_F(JobNameWindowTest, AnEmptyTypedNameIsRefusedInASheetAndTheDialogStaysOpen) {
+    WhenShown<JobNameWindow> user([](JobNameWindow& window) {
+        chooseTypedName(window);
+        MessageBoxClicker message("OK");
+        QTest::mouseClick(window.okButton(), Qt::LeftButton);
+        EXPECT_TRUE(message.clicked());
+        EXPECT_EQ(message.text(), "Please enter a job name of 1 to 255 characters.");
+        EXPECT_TRUE(message.wasWindowModal());
+        EXPECT_EQ(message.parentWindow(), &window);
+        EXPECT_TRUE(window.isVisible());
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(ShowJobNameModalDialog(specific, &escaped, name));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(escaped, "untouched");
+}
+
+TEST_F(JobNameWindowTest, ARestoredNameIsShownAndTypingStopsAtTheLimit) {
+    specific = "Input";
+    name = "Night run";
+    WhenShown<JobNameWindow> user([](JobNameWindow& window) {
+        TextFieldModelEdit* field = window.jobNameField();
+        EXPECT_TRUE(window.jobNameRadio()->buttons().at(1)->isChecked());
+        EXPECT_EQ(field->text(), "Night run");
+        EXPECT_TRUE(field->isEnabled());
+        field->setFocus();
+        field->end(false);
+        typeText(field, QString(250, QLatin1Char('x')));
+        EXPECT_EQ(field->text().size(), 255);
+        EXPECT_EQ(JobNameWinController::sharedInstance().jobName().size(), 255u);
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    EXPECT_TRUE(ShowJobNameModalDialog(specific, nullptr, name));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(name, "Night run" + std::string(246, 'x'));
+}
+
+// The proposed name comes selected with the focus; typing over it stops at 27 bytes of name.
+TEST_F(SaveFavoriteWindowTest, ShowsTheProposedNameWithTheFocusAndSavesWhatWasTyped) {
+    WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
+        EXPECT_EQ(window.windowTitle(), "Save Favorite");
+        EXPECT_EQ(window.nameLabel()->text(), "Favorite name");
+        EXPECT_EQ(window.commentField()->placeholderText(), "Up to the maximum length");
+        EXPECT_EQ(window.focusWidget(), window.nameField());
+        EXPECT_EQ(window.nameField()->selectedText(), "Draft");
+        typeText(window.nameField(), QString::fromUtf8("Ölkreide Ölkreide Ölkreide"));
+        EXPECT_EQ(window.nameField()->text(), QString::fromUtf8("Ölkreide Ölkreide Ölkrei"));
+        window.commentField()->setFocus();
+        typeText(window.commentField(), "Coated, duplex");
+        QTest::mouseClick(window.saveButton(), Qt::LeftButton);
+    });
+    EXPECT_TRUE(ShowSaveFavoriteModalDialog(name, comment));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(name, "Ölkreide Ölkreide Ölkrei");
+    EXPECT_EQ(comment, "Coated, duplex");
+}
+
+TEST_F(SaveFavoriteWindowTest, ARefusedNameIsSaidInASheetAndTakesTheFocusBack) {
+    WhenShown<SaveFavoriteWindow> user([](SaveFavoriteWindow& window) {
+        window.nameField()->selectAll();
+        typeText(window.nameField(), "A/B");
+        window.commentField()->setFocus();
+        MessageBoxClicker message("OK");
+        QTest::mouseClick(window.saveButton(), Qt::LeftButton);
+        EXPECT_TRUE(message.clicked());
+        EXPECT_TRUE(message.text().startsWith("A favorite name must have 1 to 27 bytes")) << message.text().toStdString();
+        EXPECT_EQ(message.parentWindow(), &window);
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(window.focusWidget(), window.nameField());
+        QTest::mouseClick(window.cancelButton(), Qt::LeftButton);
+    });
+    EXPECT_FALSE(ShowSaveFavoriteModalDialog(name, comment));
+    EXPECT_TRUE(user.ran());
+    EXPECT_EQ(name, "Draft");
 }

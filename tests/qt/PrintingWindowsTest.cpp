@@ -15,13 +15,16 @@
 
 #include "QtTestSupport.h"
 #include "TestSupport.h"
+#include "core/FileChooser.h"
 #include "core/LocalizedString.h"
 #include "panes/PanePlugInMgr.h"
 #include "pde/CupsClient.h"
+#include "pde/CupsQueueHost.h"
 #include "pde/PpdFileHost.h"
 #include "pde/PrintSettingsTicket.h"
 #include "pde/TarnPDEByCocoa.h"
 #include "qt/OstrinFlowPrintDialogTab.h"
+#include "qt/PanelWindow.h"
 #include "qt/QtPrintDialogHost.h"
 #include "settings_ui/NotifyUnit.h"
 #include "support/CupsTestServer.h"
@@ -98,6 +101,7 @@ protected:
     void TearDown() override {
         PanePlugInMgr::setSharedInstance(nullptr);
         Alerts::setPresenter(nullptr);
+        FileChoosers::setPresenter(nullptr);
         SetNSBundleForPrincipalBundle(nullptr);
         SetNSBundleForLocalizedString(nullptr);
     }
@@ -117,6 +121,16 @@ protected:
     std::shared_ptr<ScriptedAlertPresenter> alerts = std::make_shared<ScriptedAlertPresenter>();
     OstrinTest::TemporaryDirectory folder;
     const std::string output = folder.file("out.pdf");
+};
+
+// The gui command's window over a panel of the product bundle.
+class PanelWindowTest : public PrintDialogTab {
+protected:
+    std::shared_ptr<TarnPDEByCocoa> panelOver(PdeHost& host) {
+        auto panel = std::make_shared<TarnPDEByCocoa>(host, productBundle());
+        panel->restoreValuesAndReturnError();
+        return panel;
+    }
 };
 
 }  // namespace
@@ -206,4 +220,41 @@ TEST_F(PrintDialogTab, JobPrintedThroughTheDialogCarriesThePanelsChoices) {
     cupsSetServer(nullptr);
     EXPECT_EQ(attributes["StapleMode"], "TopRightCorner");
     EXPECT_EQ(attributes[PrintSettingsTicket::customKey("QZSpecificJobName")], "Auto");
+}
+
+TEST_F(PanelWindowTest, WithoutAQueuePrintAndSaveAreUnavailableAndTheNoteSaysWhy) {
+    auto host = PpdFileHost::open(SamplePpd);
+    auto panel = panelOver(*host);
+    PanelWindow window(*panel, *host, std::nullopt, SamplePpd);
+    EXPECT_FALSE(window.printButton()->isEnabled());
+    EXPECT_FALSE(window.saveDefaultsButton()->isEnabled());
+    EXPECT_TRUE(window.noteText().contains(QStringLiteral("--queue NAME")));
+    EXPECT_TRUE(window.noteText().contains(QString::fromStdString(SamplePpd)));
+}
+
+TEST_F(PanelWindowTest, PrintSubmitsTheChosenFileWithThePanelsSettings) {
+    OstrinTest::CupsTestServer cupsd;
+    if (!cupsd.unavailableReason().empty()) GTEST_SKIP() << "no private cupsd for this test: " << cupsd.unavailableReason();
+    ASSERT_TRUE(cupsd.addQueue("press", SamplePpd));
+    OstrinTest::CupsClient client(cupsd);
+    cupsSetServer(cupsd.serverName().c_str());
+    CupsQueueHost::Opening opening = CupsQueueHost::open("press");
+    ASSERT_TRUE(opening.host) << opening.outcome.message;
+    auto panel = panelOver(*opening.host);
+    PanelWindow window(*panel, *opening.host, "press", SamplePpd);
+    auto files = std::make_shared<ScriptedFileChooserPresenter>();
+    FileChoosers::setPresenter(files);
+    Alerts::setPresenter(alerts);
+    OstrinTest::writeFile(folder.file("page.txt"), "Ostrin Flow test page\n");
+    files->queue(folder.file("page.txt"));
+    window.show();
+    userChanges("StapleMode", "BottomEdge");
+
+    window.printButton()->click();
+    cupsSetServer(nullptr);
+    ASSERT_TRUE(window.printedJobId()) << (alerts->asked().empty() ? "" : alerts->asked().front().informativeText);
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+    auto attributes = client.jobAttributes(*window.printedJobId());
+    EXPECT_EQ(attributes["StapleMode"], "BottomEdge");
+    EXPECT_EQ(attributes["job-name"], "page.txt");
 }
