@@ -33,9 +33,6 @@ TEST(TextFieldModel, ValueComesThroughTheFormatter) {
     EXPECT_EQ(field.objectValue(), "(a)");
     field.setFormatter(attachMaxLengthFormatterWithEscape(10));
     EXPECT_EQ(field.objectValue(), "\\(a\\)");
-    field.setPlaceholderStringAndToolTip("at most 10");
-    EXPECT_EQ(field.placeholderString(), "at most 10");
-    EXPECT_EQ(field.toolTip(), "at most 10");
 }
 
 TEST(TextFieldModel, EditingEndsOnlyAboveTheMinimum) {

@@ -100,24 +100,22 @@ TEST(PrintServiceTransport, MalformedReplyFailsInTheOperationsDomain) {
     LoopbackHttpServer server({CannedReply::soap("<soap:Envelope><unclosed>"), CannedReply::soap("not xml at all"),
                                CannedReply::soap(kFontReply.substr(0, kFontReply.size() - 5))});
     auto binding = bindingFor(server);
-    auto stackers = binding->getStackerInfoListUsingParameters({});
-    ASSERT_TRUE(stackers.error);
-    EXPECT_EQ(stackers.error->domain, "PrintServiceResponseXML");
-    EXPECT_EQ(stackers.error->code, 1);
-    EXPECT_EQ(stackers.error->localizedDescription, "Errors while parsing returned XML");
-    EXPECT_TRUE(stackers.bodyParts.empty());
-    auto folders = binding->getJobFolderListUsingParameters({});
-    ASSERT_TRUE(folders.error);
-    EXPECT_EQ(folders.error->domain, "PrintServiceResponseXML");
-    auto fonts = binding->getFontListUsingParameters({});
-    ASSERT_TRUE(fonts.error);
-    EXPECT_EQ(fonts.error->domain, "PrintServiceSoapResponseXML");
-    EXPECT_TRUE(fonts.bodyParts.empty());
+    const PrintServiceSoapResponse responses[] = {binding->getStackerInfoListUsingParameters({}),
+                                                  binding->getJobFolderListUsingParameters({}),
+                                                  binding->getFontListUsingParameters({})};
+    const char* domains[] = {"PrintServiceResponseXML", "PrintServiceResponseXML", "PrintServiceSoapResponseXML"};
+    for (int index = 0; index < 3; ++index) {
+        ASSERT_TRUE(responses[index].error) << index;
+        EXPECT_EQ(responses[index].error->domain, domains[index]);
+        EXPECT_EQ(responses[index].error->code, 1);
+        EXPECT_EQ(responses[index].error->localizedDescription, "Errors while parsing returned XML");
+        EXPECT_TRUE(responses[index].bodyParts.empty());
+    }
 }
 
-// A server that closes, resets, falls silent before its reply or after its head, or is
-// not there at all, ends the call with a transport error and no body parts, long before a
-// silent server would close. An empty reply is no error.
+// A server that closes, resets, or falls silent before its reply or after its head ends the
+// call with a transport error and no body parts, long before a silent server would close.
+// An empty reply is no error.
 TEST(PrintServiceTransport, FailingServerGivesATransportError) {
     CannedReply slow = CannedReply::soap(kFontReply);
     slow.delay = std::chrono::seconds(5);
@@ -138,10 +136,6 @@ TEST(PrintServiceTransport, FailingServerGivesATransportError) {
         EXPECT_NE(std::find(codes.begin(), codes.end(), failed.error->code), codes.end()) << failed.error->code;
         EXPECT_TRUE(failed.bodyParts.empty());
     }
-    auto refused = PrintService::PrintServiceSoap("http://127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort()))
-                       ->getFontListUsingParameters({});
-    ASSERT_TRUE(refused.error);
-    EXPECT_EQ(refused.error->code, 7);
     auto empty = fontListFrom(CannedReply::soap(""));
     EXPECT_FALSE(empty.error);
     EXPECT_TRUE(empty.bodyParts.empty());
@@ -207,11 +201,7 @@ TEST(PrintServiceTransport, CookiesOfEachReplyGoWithTheNextRequestAndReplaceEarl
     EXPECT_EQ(binding->cookies()[0].value, "abc");
     binding->getFontListUsingParameters({});
     binding->getFontListUsingParameters({});
-    PrintServiceSoapCookie added;
-    added.domain = "127.0.0.1";
-    added.name = "press";
-    added.value = "7";
-    binding->addCookie(added);
+    binding->addCookie({.domain = "127.0.0.1", .name = "press", .value = "7"});
     binding->getFontListUsingParameters({});
 
     const auto requests = server.requests();

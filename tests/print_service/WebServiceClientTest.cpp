@@ -174,14 +174,11 @@ TEST(WebServiceClient, JobResourceStatusAndDetailDecideTogether) {
 }
 
 TEST(WebServiceClient, StatusOtherThanOKStopsTheListLoggedOrSilently) {
+    const auto stackers = [](auto& c, auto a) { return c.getStackerInfoList(a); };
     LogLines log;
-    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "Error"),
-                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
-              Rows{});
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "Error"), stackers), Rows{});
     EXPECT_TRUE(log.contains("###PrintService error: 41"));
-    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "ok"),
-                      [](auto& c, auto a) { return c.getStackerInfoList(a); }),
-              Rows{});
+    EXPECT_EQ(rowsFor(withStatus(replyFixture("stackers.xml"), "ok"), stackers), Rows{});
     EXPECT_TRUE(log.contains("###PrintService error: 0"));
     log.lines.clear();
     EXPECT_EQ(rowsFor(withStatus(replyFixture("feeders.xml"), "Error"),
