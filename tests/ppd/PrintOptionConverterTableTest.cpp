@@ -78,24 +78,20 @@ TEST(PrintOptionConverterTable, ItemsMapTagValuesToOptionKeywordsAsIntegers) {
     EXPECT_EQ(converter.inputMgrTagValue("OutputTray", "Bin"), std::nullopt);
 }
 
+// Toward the input manager the digits run to the end of the keyword.
 TEST(PrintOptionConverterTable, NumberedPatternSubtractsItsTagValue) {
     TableBundle bundle({{"PunchHoles", PlistDictionary{{"tagKey", "FN_HOLES"},
                                                        {"items", PlistArray{item("None", 0), item("Holes%d", "10")}}}},
-                        {"Flag", PlistDictionary{{"tagKey", "FN_FLAG"}, {"items", PlistArray{item("On", 1)}}}}});
+                        {"Flag", PlistDictionary{{"tagKey", "FN_FLAG"}, {"items", PlistArray{item("On", 1)}}}},
+                        {"RotationAngle", PlistDictionary{{"tagKey", "IM_ROTATE"}, {"items", PlistArray{item("%d", 0)}}}}});
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "13"}, {"FN_FLAG", "2"}}), (PlistDictionary{{"PunchHoles", "Holes3"}}));
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "0"}}), (PlistDictionary{{"PunchHoles", "None"}}));
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "4"}}), (PlistDictionary{{"PunchHoles", "Holes-6"}}));
-
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Holes3"}}), (PlistDictionary{{"FN_HOLES", 13}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "None"}}), (PlistDictionary{{"FN_HOLES", 0}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Holes"}}), (PlistDictionary{{"FN_HOLES", 10}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Staple2"}}), PlistDictionary());
     EXPECT_EQ(inputMgrFormat({{"Flag", true}}), PlistDictionary());
-}
-
-TEST(PrintOptionConverterTable, NumberedPatternTakesTheDigitsToTheEndOfTheKeyword) {
-    TableBundle bundle({{"RotationAngle", PlistDictionary{{"tagKey", "IM_ROTATE"},
-                                                          {"items", PlistArray{item("%d", 0)}}}}});
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "Rotate270"}}), (PlistDictionary{{"IM_ROTATE", 270}}));
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "A1_2"}}), (PlistDictionary{{"IM_ROTATE", 1}}));
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "Upright"}}), (PlistDictionary{{"IM_ROTATE", 0}}));

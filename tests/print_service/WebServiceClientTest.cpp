@@ -21,7 +21,6 @@ namespace {
 
 using Rows = ServerRowList;
 
-// A client aimed at server, with a short timeout.
 WebServiceClient clientFor(const LoopbackHttpServer& server) {
     WebServiceClient client;
     client.setPort(server.port());
@@ -37,7 +36,6 @@ std::optional<Rows> rowsFor(const std::string& reply, Method method) {
     return method(client, "127.0.0.1");
 }
 
-// Collects the diagnostic lines written while it lives.
 class LogLines {
 public:
     LogLines() {
@@ -84,7 +82,6 @@ TEST(WebServiceClient, JobFoldersStartWithTheLocalizedSharedFolder) {
     PreferredLanguages::setFirst("");
 }
 
-// Each list method reads the rows of its recorded reply.
 TEST(WebServiceClient, EveryListReadsTheRowsOfItsReply) {
     using Method = std::function<std::optional<Rows>(WebServiceClient&, const std::string&)>;
     struct Case {
@@ -240,15 +237,12 @@ TEST(WebServiceClient, AddressThatIsNoHostSendsNothing) {
     EXPECT_TRUE(server.requests().empty());
 }
 
-TEST(WebServiceClient, ConvertUrlAddressBracketsIPv6AndEscapesItsZone) {
+TEST(WebServiceClient, ReachesAnIPv6HostInBracketsWithItsZoneEscaped) {
     EXPECT_EQ(WebServiceClient::convertUrlAddress("fe80::1%en0"), "[fe80::1%25en0]");
     EXPECT_EQ(WebServiceClient::convertUrlAddress("[fe80::2]"), "[fe80::2]");
     EXPECT_EQ(WebServiceClient::convertUrlAddress("[fe80::3%eth1]"), "[fe80::3%25eth1]");
     EXPECT_EQ(WebServiceClient::convertUrlAddress("192.168.10.20"), "192.168.10.20");
     EXPECT_EQ(WebServiceClient::convertUrlAddress("press-01.local"), "press-01.local");
-}
-
-TEST(WebServiceClient, ReachesAnIPv6HostInBrackets) {
     LoopbackHttpServer server({CannedReply::soap(replyFixture("fonts.xml"))}, std::chrono::seconds(15),
                               LoopbackFamily::IPv6);
     if (!server.port()) GTEST_SKIP() << "this machine has no IPv6 loopback";
