@@ -1,14 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "core/Alert.h"
+#include "core/Bundle.h"
 #include "core/FormatterAttachment.h"
 #include "core/ListModel.h"
+#include "core/LocalizedString.h"
 #include "core/MaxBytesFormatter.h"
 #include "core/ModalWindow.h"
 #include "core/NoEmptyTextRule.h"
+#include "core/PreferredLanguages.h"
 #include "core/RadioGroupModel.h"
+#include "core/SimpleAlert.h"
 #include "core/TextFieldModel.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -33,9 +39,6 @@ TEST(TextFieldModel, ValueComesThroughTheFormatter) {
     EXPECT_EQ(field.objectValue(), "(a)");
     field.setFormatter(attachMaxLengthFormatterWithEscape(10));
     EXPECT_EQ(field.objectValue(), "\\(a\\)");
-    field.setPlaceholderStringAndToolTip("at most 10");
-    EXPECT_EQ(field.placeholderString(), "at most 10");
-    EXPECT_EQ(field.toolTip(), "at most 10");
 }
 
 TEST(TextFieldModel, EditingEndsOnlyAboveTheMinimum) {
@@ -105,4 +108,54 @@ TEST(NoEmptyTextRule, ABlankEditGivesBackTheTextFromBeforeItUnlessThatWasBlank) 
     const auto stays = rule.endEditing("");
     EXPECT_EQ(stays.text, "");
     EXPECT_FALSE(stays.restored);
+}
+
+namespace {
+
+// Records what the helpers ask, with the product's catalogues in German.
+class SimpleAlertTest : public testing::Test {
+protected:
+    void SetUp() override {
+        PreferredLanguages::setFirst("de");
+        SetNSBundleForLocalizedString(Bundle::bundleWithPath(OSTRIN_BUILD_BUNDLE_DIR));
+        Alerts::setPresenter(_presenter);
+    }
+    void TearDown() override {
+        Alerts::setPresenter(nullptr);
+        SetNSBundleForLocalizedString(nullptr);
+        PreferredLanguages::setFirst("");
+    }
+    const AlertRequest& asked() const { return _presenter->asked().back(); }
+
+    std::shared_ptr<ScriptedAlertPresenter> _presenter = std::make_shared<ScriptedAlertPresenter>();
+};
+
+}  // namespace
+
+TEST_F(SimpleAlertTest, TitleAndTextAreLocalisedAndOnlyOkIsOffered) {
+    SimpleAlert("Self Resolve Conflict", "Yes");
+    EXPECT_EQ(asked().messageText, "Konflikt selbst lösen");
+    EXPECT_EQ(asked().informativeText, "Ja");
+    EXPECT_EQ(asked().buttons, (std::vector<std::string>{"OK"}));
+    EXPECT_EQ(asked().style, AlertRequest::Style::Informational);
+    WarningAlert("No", "Not translated anywhere");
+    EXPECT_EQ(asked().messageText, "Nein");
+    EXPECT_EQ(asked().informativeText, "Not translated anywhere");
+    EXPECT_EQ(asked().style, AlertRequest::Style::Warning);
+}
+
+TEST_F(SimpleAlertTest, ExceptionsAndObjectsShowAsGivenAndWithoutCataloguesTheKeysAreShown) {
+    ExceptionAlert("No", std::runtime_error("disk full"));
+    EXPECT_EQ(asked().messageText, "Nein");
+    EXPECT_EQ(asked().informativeText, "disk full");
+    EXPECT_EQ(asked().style, AlertRequest::Style::Critical);
+    SimpleAlertObject("Yes", "No");
+    EXPECT_EQ(asked().messageText, "Ja");
+    EXPECT_EQ(asked().informativeText, "No");
+    SetNSBundleForLocalizedString(nullptr);
+    SimpleAlert("Self Resolve Conflict", "Yes");
+    EXPECT_EQ(asked().messageText, "Self Resolve Conflict");
+    EXPECT_EQ(asked().informativeText, "Yes");
+    EXPECT_EQ(asked().buttons, (std::vector<std::string>{"OK"}));
+    EXPECT_EQ(_presenter->asked().size(), 3u);
 }

@@ -6,12 +6,14 @@
 #include "TestSupport.h"
 #include "core/Diagnostics.h"
 #include "core/EncodingLibrary.h"
+#include "core/TextScrambling.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 
 namespace {
 
 const std::string completeLibrary = std::string(OSTRIN_STAND_IN_ENCRYPTION_DIR) + "/complete";
+const std::string key = "SecureKey=0123456789";
 const std::string incompleteLibrary = std::string(OSTRIN_STAND_IN_ENCRYPTION_DIR) + "/incomplete";
 
 class EncodingLibrary : public ::testing::Test {
@@ -43,7 +45,7 @@ TEST_F(EncodingLibrary, CheckAnswersWhichStepFailed) {
         std::string message, logLine;
     };
     const Case cases[] = {
-        {"secret-1234", completeLibrary, 0, "checkEncDec:OK", "ENCODE:"},
+        {"secret-1234", completeLibrary, 0, "checkEncDec:OK", "\"(11 bytes)\" -> \"(22 bytes)\""},
         {"secret", empty.path(), -1, "checkEncDec:loadEncDec error",
          "xxx dlopen(" + empty.path() + "/libencryption.so) error "},
         {"secret", incompleteLibrary, -1, "checkEncDec:loadEncDec error", "xxx incomplete status 0x"},
@@ -57,6 +59,9 @@ TEST_F(EncodingLibrary, CheckAnswersWhichStepFailed) {
         EXPECT_EQ(checkEncDec(each.text, each.library, message), each.code) << each.text;
         EXPECT_EQ(message, each.message);
         EXPECT_TRUE(logged(each.logLine)) << _log;
+        // The log shows sizes, never the texts or their encoded form.
+        EXPECT_EQ(_log.find(each.text), std::string::npos) << _log;
+        EXPECT_EQ(_log.find("736563726574"), std::string::npos) << _log;
         // A refused library is closed, and so is the library after a successful check.
         std::string encoded;
         if (each.code == 0 || each.code == -1) {
@@ -87,10 +92,41 @@ TEST_F(EncodingLibrary, EncodeAndDecodeThroughTheLoadedLibraryUntilUnloaded) {
     EXPECT_EQ(decode("74657874", decoded), -1);
 }
 
-TEST_F(EncodingLibrary, LogShowsSizesNeverTheTexts) {
-    std::string message;
-    ASSERT_EQ(checkEncDec("hunter2-password", completeLibrary, message), 0);
-    EXPECT_NE(_log.find("\"(16 bytes)\" -> \"(32 bytes)\""), std::string::npos) << _log;
-    EXPECT_EQ(_log.find("hunter2"), std::string::npos);
-    EXPECT_EQ(_log.find("68756e74657232"), std::string::npos);
+TEST(TextScrambling, TextsRoundTripAsLowercaseHexOfTwoDigitsPerByte) {
+    for (const std::string plain : {"Passw0rd, with spaces!", "\xE5\xAF\x86\xE7\xA0\x81 p\xC3\xA4ss \xF0\x9F\x94\x91", ""}) {
+        const std::string scrambled = encryptString(key, plain);
+        EXPECT_EQ(scrambled.size(), 2 + 2 * plain.size());
+        EXPECT_EQ(scrambled.find_first_not_of("0123456789abcdef"), std::string::npos) << scrambled;
+        // The first byte, chosen at random, stays below 255.
+        EXPECT_LT(std::stoi(scrambled.substr(0, 2), nullptr, 16), 255);
+        EXPECT_EQ(decryptString(key, scrambled), plain);
+        EXPECT_EQ(encryptionBufLen(plain), scrambled.size() + 1);
+    }
+}
+
+// 0xFF never occurs in UTF-8 text; every other non-NUL byte must come back.
+TEST(TextScrambling, EveryTextByteRoundTripsWithShortKeys) {
+    std::string plain;
+    for (int byte = 1; byte < 255; ++byte) plain += static_cast<char>(byte);
+    for (const std::string shortKey : {"k", "\x7F\x01", "\xFF"}) {
+        const auto restored = Decryption(shortKey, Encryption(shortKey, plain));
+        ASSERT_TRUE(restored);
+        EXPECT_EQ(*restored, plain) << "key " << shortKey;
+    }
+}
+
+TEST(TextScrambling, KnownDigitsAndWrongKeys) {
+    // With first byte 0x10 and key "k" (0x6b): 0x6b ^ ((0x10 + 'A') % 255) = 0x6b ^ 0x51 = 0x3a.
+    EXPECT_EQ(decryptString("k", "103a"), "A");
+    EXPECT_EQ(decryptString("k", "103A"), "A");
+    const std::string scrambled = encryptString(key, "print-secret");
+    EXPECT_NE(decryptString("OtherKey=9876543210", scrambled), "print-secret");
+    EXPECT_NE(decryptString("T" + key.substr(1), scrambled), "print-secret");  // first key byte differs
+}
+
+TEST(TextScrambling, MalformedInputOrEmptyKeyGivesNothing) {
+    for (const char* malformed : {"abc", "", "zz12", "+1"}) EXPECT_EQ(Decryption(key, malformed), std::nullopt) << malformed;
+    EXPECT_EQ(Decryption("", "1234"), std::nullopt);
+    EXPECT_EQ(decryptString(key, "not hex"), "");
+    EXPECT_EQ(encryptString("", "text"), "");
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "PrintOptionTestSupport.h"
 #include "ppd/PrintOptionConverter.h"
 
@@ -40,56 +42,36 @@ TEST(PrintOptionConverterImposition, NupBecomesTheFullPressLayout) {
     printOption.set("ImpositionBooklet_LayoutBaseFile", "Left");
     printOption.set("ImpositionBooklet_CreepTotalOffset", "2.00");
     EXPECT_EQ(entriesOf(toCanonical(printOption)),
-              entriesOf({{"ImpositionMode", "Job"},
-                         {"ImpositionCustomMode", "Nup"},
-                         {"Fitting", "True"},
-                         {"DocumentOrientation", "Portrait"},
-                         {"ChgPrintPaperSizeType", "A3"},
-                         {"LayoutRepeatX", "2"},
-                         {"LayoutRepeatY", "2"},
-                         {"SheetDirection", "Portrait"},
-                         {"FinishSheetDirection", "Portrait"},
-                         {"FinishFixedForm", "Custom"},
-                         {"FinishedSizeName", ""},
-                         {"FinishedSizeHeight", "119055"},
-                         {"FinishedSizeWidth", "84189"},
-                         {"LayoutBaseFile", "NUp-1side.json"},
-                         {"ImpositionAutoDuplex", "False"},
-                         {"FixedForm", "A3"},
-                         {"SheetSizeName", ""},
-                         {"SheetSizeHeight", ""},
-                         {"SheetSizeWidth", ""},
-                         {"FascicleMode", "None"},
-                         {"NumberOfFascicle", "16"},
-                         {"RotationAngle", "Rotate0"}}));
+              entriesOf({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Nup"}, {"Fitting", "True"},
+                         {"DocumentOrientation", "Portrait"}, {"ChgPrintPaperSizeType", "A3"}, {"LayoutRepeatX", "2"},
+                         {"LayoutRepeatY", "2"}, {"SheetDirection", "Portrait"}, {"FinishSheetDirection", "Portrait"},
+                         {"FinishFixedForm", "Custom"}, {"FinishedSizeName", ""}, {"FinishedSizeHeight", "119055"},
+                         {"FinishedSizeWidth", "84189"}, {"LayoutBaseFile", "NUp-1side.json"},
+                         {"ImpositionAutoDuplex", "False"}, {"FixedForm", "A3"}, {"SheetSizeName", ""},
+                         {"SheetSizeHeight", ""}, {"SheetSizeWidth", ""}, {"FascicleMode", "None"},
+                         {"NumberOfFascicle", "16"}, {"RotationAngle", "Rotate0"}}));
 }
 
 TEST(PrintOptionConverterImposition, NupLayoutAndFinishedSizeFollowPagesAndDirection) {
-    struct Row {
-        const char* pages;
-        const char* portrait;
-        const char* landscape;
-        const char* height;
-        const char* width;
-    };
-    // A4SEF: 168378 x 119056 cep.
-    const Row rows[] = {
+    // Pages, layout when portrait and when landscape, finished height and width on A4SEF
+    // (168378 x 119056 cep).
+    const std::array<const char*, 5> rows[] = {
         {"2up", "2_1_Landscape", "1_2_Portrait", "119056", "84189"},
         {"4up", "2_2_Portrait", "2_2_Landscape", "84189", "59528"},
         {"8up", "4_2_Landscape", "2_4_Portrait", "59528", "42094"},
         {"16up", "4_4_Portrait", "4_4_Landscape", "42094", "29764"},
         {"32up", "8_4_Landscape", "4_8_Portrait", "29764", "21047"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [pages, portrait, landscape, height, width] : rows) {
         for (const char* orientation : {"Portrait", "Landscape"}) {
-            auto printOption = toCanonical(nup(row.pages, orientation, "A4SEF"));
+            auto printOption = toCanonical(nup(pages, orientation, "A4SEF"));
             const std::string layout = printOption.stringFor("LayoutRepeatX", "") + "_" +
                                        printOption.stringFor("LayoutRepeatY", "") + "_" +
                                        printOption.stringFor("SheetDirection", "");
-            EXPECT_EQ(layout, std::string(orientation) == "Portrait" ? row.portrait : row.landscape) << row.pages;
-            EXPECT_EQ(printOption.stringFor("FinishSheetDirection", ""), orientation);
-            EXPECT_EQ(printOption.stringFor("FinishedSizeHeight", ""), row.height) << row.pages;
-            EXPECT_EQ(printOption.stringFor("FinishedSizeWidth", ""), row.width) << row.pages;
+            EXPECT_EQ(layout, std::string(orientation) == "Portrait" ? portrait : landscape) << pages;
+            EXPECT_EQ(valuesOf(printOption, {"FinishSheetDirection", "FinishedSizeHeight", "FinishedSizeWidth"}),
+                      (Strings{orientation, height, width}))
+                << pages;
         }
     }
 }
@@ -107,18 +89,6 @@ TEST(PrintOptionConverterImposition, NupDirectionComesFromThePaperWhenTheDocumen
         EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Landscape") << name;
     for (const char* name : {"16KaiLEFC", "Envyouchou3LEF", "a4lef", ""})
         EXPECT_EQ(Converter::getImpositionFinishedSheetDirection(name), "Portrait") << name;
-}
-
-TEST(PrintOptionConverterImposition, NupOnACustomSheetUsesItsOwnSize) {
-    PlistDictionary printOption = nup("2up", "Portrait", "Custom");
-    printOption.set("ChgPrintPaperSizeLength", "100000");
-    printOption.set("ChgPrintPaperSizeWidth", "60001");
-    auto canonical = toCanonical(printOption);
-    EXPECT_EQ(canonical.stringFor("FinishedSizeHeight", ""), "60001");
-    EXPECT_EQ(canonical.stringFor("FinishedSizeWidth", ""), "50000");
-    EXPECT_EQ(canonical.stringFor("FixedForm", ""), "Custom");
-    EXPECT_EQ(canonical.stringFor("SheetSizeHeight", ""), "100000");
-    EXPECT_EQ(canonical.stringFor("SheetSizeWidth", ""), "60001");
 }
 
 TEST(PrintOptionConverterImposition, NupWithAnUnknownPageCountOrSheetLeavesLayoutOrSizeUnset) {
@@ -141,45 +111,24 @@ TEST(PrintOptionConverterImposition, BookletBecomesSaddleStitchLayout) {
                                 {"DocumentOrientation", "Landscape"},
                                 {"ChgPrintPaperSizeType", "A3"}};
     EXPECT_EQ(entriesOf(toCanonical(printOption)),
-              entriesOf({{"ImpositionMode", "Job"},
-                         {"ImpositionCustomMode", "Booklet"},
-                         {"Fitting", "True"},
-                         {"DocumentOrientation", "Landscape"},
-                         {"ChgPrintPaperSizeType", "A3"},
-                         {"LayoutBaseFile", "SaddleStiching2x1(RightBinding).json"},
-                         {"CreepSetting", "False"},
-                         {"CreepTotalOffset", "0"},
-                         {"CreepInitialOffsetX", "0"},
-                         {"BackMargin", "850"},
-                         {"FinishSheetDirection", "Portrait"},
-                         {"FinishFixedForm", "Custom"},
-                         {"FinishedSizeName", ""},
-                         {"FinishedSizeHeight", "168378"},
-                         {"FinishedSizeWidth", "119055"},
-                         {"SheetDirection", "Landscape"},
-                         {"RotationAngle", "Rotate90"},
-                         {"FixedForm", "A3"},
-                         {"SheetSizeName", ""},
-                         {"SheetSizeHeight", ""},
-                         {"SheetSizeWidth", ""},
-                         {"ImpositionAutoDuplex", "True"},
-                         {"NupLayout", "Z"},
-                         {"LayoutRepeatX", "1"},
+              entriesOf({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"Fitting", "True"},
+                         {"DocumentOrientation", "Landscape"}, {"ChgPrintPaperSizeType", "A3"},
+                         {"LayoutBaseFile", "SaddleStiching2x1(RightBinding).json"}, {"CreepSetting", "False"},
+                         {"CreepTotalOffset", "0"}, {"CreepInitialOffsetX", "0"}, {"BackMargin", "850"},
+                         {"FinishSheetDirection", "Portrait"}, {"FinishFixedForm", "Custom"}, {"FinishedSizeName", ""},
+                         {"FinishedSizeHeight", "168378"}, {"FinishedSizeWidth", "119055"},
+                         {"SheetDirection", "Landscape"}, {"RotationAngle", "Rotate90"}, {"FixedForm", "A3"},
+                         {"SheetSizeName", ""}, {"SheetSizeHeight", ""}, {"SheetSizeWidth", ""},
+                         {"ImpositionAutoDuplex", "True"}, {"NupLayout", "Z"}, {"LayoutRepeatX", "1"},
                          {"LayoutRepeatY", "1"}}));
 }
 
 TEST(PrintOptionConverterImposition, BookletOnALongEdgeFeedSheetHalvesTheWidth) {
     PlistDictionary printOption{{kMode, "Booklet"}, {"ImpositionBooklet_CreepTotalOffset", ""},
                                 {"DocumentOrientation", "Portrait"}, {"ChgPrintPaperSizeType", "A4LEF"}};
-    auto canonical = toCanonical(printOption);
-    EXPECT_EQ(canonical.stringFor("FinishedSizeHeight", ""), "119056");
-    EXPECT_EQ(canonical.stringFor("FinishedSizeWidth", ""), "84189");
-    EXPECT_EQ(canonical.stringFor("LayoutBaseFile", ""), "SaddleStiching2x1(LeftBinding).json");
-    EXPECT_EQ(canonical.stringFor("RotationAngle", ""), "Rotate0");
-    EXPECT_FALSE(canonical.contains("BackMargin"));
-    EXPECT_FALSE(canonical.contains("CreepSetting"));
-    EXPECT_FALSE(canonical.contains("ImpositionBooklet_CreepTotalOffset"));
-
+    EXPECT_EQ(valuesOf(toCanonical(printOption), {"FinishedSizeHeight", "FinishedSizeWidth", "LayoutBaseFile", "RotationAngle",
+                                                  "BackMargin", "CreepSetting", "ImpositionBooklet_CreepTotalOffset"}),
+              (Strings{"119056", "84189", "SaddleStiching2x1(LeftBinding).json", "Rotate0", "-", "-", "-"}));
     printOption.set("DocumentOrientation", "Auto");
     EXPECT_FALSE(toCanonical(printOption).contains("RotationAngle"));
 }
@@ -278,4 +227,37 @@ TEST(PrintOptionConverterImposition, ScaleToFitFollowsTheCurrentMode) {
         Converter::setupScaleToFitValue(unchanged);
         EXPECT_EQ(unchanged.size(), size);
     }
+}
+
+// Custom sizes reach cep before the imposition halves the sheet for the finished size;
+// without the flag they stay in millimetres, and so do the sizes computed from them.
+TEST(PrintOptionConverterStepOrder, ImpositionSizesComeFromTheConvertedCustomSizes) {
+    const PlistDictionary nupOnCustomSheet{
+        {"ImpositionMode_ImpositionCustomMode", "Nup"}, {"ImpositionNup_NumOfPages", "2up"},
+        {"DocumentOrientation", "Portrait"},            {"ChgPrintPaperSizeType", "Custom"},
+        {"ChgPrintPaperSizeLength", "420"},             {"ChgPrintPaperSizeWidth", "297"}};
+    const std::initializer_list<const char*> sizes = {"FinishedSizeHeight", "FinishedSizeWidth", "SheetSizeHeight",
+                                                      "SheetSizeWidth", "FixedForm"};
+    EXPECT_EQ(valuesOf(canonical(nupOnCustomSheet), sizes), (Strings{"168378", "119055", "238110", "168378", "Custom"}));
+    EXPECT_EQ(valuesOf(canonical(nupOnCustomSheet, 0), sizes), (Strings{"297", "210", "420", "297", "Custom"}));
+}
+
+// Toward the press the fitting key of the current mode wins over any "Fitting" already
+// there; reading back, scale to fit goes to the mode restored before it.
+TEST(PrintOptionConverterStepOrder, FittingFollowsTheModeInBothDirections) {
+    auto press = canonical({{"ImpositionMode_ImpositionCustomMode", "Nup"}, {"ImpositionNup_Fitting", "True"},
+                            {"Fitting", "False"}});
+    EXPECT_EQ(valuesOf(press, {"Fitting", "ImpositionNup_Fitting"}), (Strings{"True", "-"}));
+    auto panes = internal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"Fitting", "True"}});
+    EXPECT_EQ(valuesOf(panes, {"ImpositionMode_ImpositionCustomMode", "ImpositionBooklet_Fitting", "ImpositionNup_Fitting"}),
+              (Strings{"Booklet", "True", "-"}));
+}
+
+// The press's imposition keys are read back after the lengths: the creep comes from the
+// gutter in cep, whatever the other lengths do.
+TEST(PrintOptionConverterStepOrder, BookletCreepReadsBackFromTheGutterInCep) {
+    auto panes = internal({{"ImpositionMode", "Job"}, {"ImpositionCustomMode", "Booklet"}, {"BackMargin", "2835"},
+                           {"FinishedSizeHeight", "119055"}, {"ChgPrintPaperSizeLength", "238110"}});
+    EXPECT_EQ(valuesOf(panes, {"ImpositionBooklet_CreepTotalOffset", "ChgPrintPaperSizeLength", "FinishedSizeHeight"}),
+              (Strings{"5.00", "420.00", "-"}));
 }

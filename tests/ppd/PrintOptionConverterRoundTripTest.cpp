@@ -66,20 +66,12 @@ TEST_P(RoundTrip, InternalToCanonicalAndBackKeepsEverySettingOfThePanes) {
     const Differences found = differences(original, restored);
     EXPECT_EQ(found.removed, (Entries{{"ImpositionBooklet_Fitting", "False"}, {"AuthJobUserIdType", "Login"}}));
     EXPECT_EQ(found.changed, (Entries{{"AuthJobUserId", PlistValue(loginName())}}));
-    EXPECT_EQ(found.added, (Entries{{"Fitting", "True"},
-                                    {"GraphicsTreatmentBase", "Job"},
-                                    {"GraphicsTreatmentMode", "Text"},
-                                    {"SpTonerOverlayObjectFront", "60"},
-                                    {"SpTonerOverlayObjectBack", "0"},
-                                    {"StkType", "Name"},
-                                    {"BlankPapersFrontStkType", "Name"},
-                                    {"SeparatorsStkType", "Property"},
-                                    {"Imposition1stStkType", "Property"},
-                                    {"CoverPageStkType", "Property"},
-                                    {"ImpositionAutoDuplex", "False"},
-                                    {"FascicleMode", "None"},
-                                    {"NumberOfFascicle", "16"},
-                                    {"RotationAngle", "Rotate0"}}));
+    EXPECT_EQ(found.added, (Entries{{"Fitting", "True"}, {"GraphicsTreatmentBase", "Job"}, {"GraphicsTreatmentMode", "Text"},
+                                    {"SpTonerOverlayObjectFront", "60"}, {"SpTonerOverlayObjectBack", "0"},
+                                    {"StkType", "Name"}, {"BlankPapersFrontStkType", "Name"},
+                                    {"SeparatorsStkType", "Property"}, {"Imposition1stStkType", "Property"},
+                                    {"CoverPageStkType", "Property"}, {"ImpositionAutoDuplex", "False"},
+                                    {"FascicleMode", "None"}, {"NumberOfFascicle", "16"}, {"RotationAngle", "Rotate0"}}));
 }
 
 TEST_P(RoundTrip, CanonicalFormHoldsNoKeyOfThePanesOwn) {
@@ -92,14 +84,10 @@ TEST_P(RoundTrip, CanonicalFormHoldsNoKeyOfThePanesOwn) {
                             "ImpositionNup_NumOfPages", "ImpositionNup_Fitting", "ImpositionBooklet_Fitting",
                             "ImpositionBooklet_LayoutBaseFile", "ImpositionBooklet_CreepTotalOffset"})
         EXPECT_FALSE(press.contains(key)) << key;
-    EXPECT_EQ(press.stringFor("Punch", ""), "Left");
-    EXPECT_EQ(press.stringFor("PageOrder", ""), "Reverse");
-    EXPECT_EQ(press.stringFor("ImpositionCustomMode", ""), "Nup");
-    EXPECT_EQ(press.stringFor("ChgPrintPaperSizeLength", ""), "238110");
-    EXPECT_EQ(press.stringFor("SheetSizeHeight", ""), "238110");
     // 4-up portrait on a 420 x 297 mm custom sheet: 210 x 148.5 mm finished pages.
-    EXPECT_EQ(press.stringFor("FinishedSizeHeight", ""), "119055");
-    EXPECT_EQ(press.stringFor("FinishedSizeWidth", ""), "84189");
+    EXPECT_EQ(valuesOf(press, {"Punch", "PageOrder", "ImpositionCustomMode", "ChgPrintPaperSizeLength", "SheetSizeHeight",
+                               "FinishedSizeHeight", "FinishedSizeWidth"}),
+              (Strings{"Left", "Reverse", "Nup", "238110", "238110", "119055", "84189"}));
 }
 
 // Once in canonical form, further trips change nothing more.

@@ -8,6 +8,7 @@
 #include "core/Bundle.h"
 #include "core/LocalizedString.h"
 #include "core/PlistIO.h"
+#include "ppd/PaperSize.h"
 #include "ppd/PpdFile.h"
 #include "ppd/PrintOptionConverter.h"
 
@@ -77,24 +78,20 @@ TEST(PrintOptionConverterTable, ItemsMapTagValuesToOptionKeywordsAsIntegers) {
     EXPECT_EQ(converter.inputMgrTagValue("OutputTray", "Bin"), std::nullopt);
 }
 
+// Toward the input manager the digits run to the end of the keyword.
 TEST(PrintOptionConverterTable, NumberedPatternSubtractsItsTagValue) {
     TableBundle bundle({{"PunchHoles", PlistDictionary{{"tagKey", "FN_HOLES"},
                                                        {"items", PlistArray{item("None", 0), item("Holes%d", "10")}}}},
-                        {"Flag", PlistDictionary{{"tagKey", "FN_FLAG"}, {"items", PlistArray{item("On", 1)}}}}});
+                        {"Flag", PlistDictionary{{"tagKey", "FN_FLAG"}, {"items", PlistArray{item("On", 1)}}}},
+                        {"RotationAngle", PlistDictionary{{"tagKey", "IM_ROTATE"}, {"items", PlistArray{item("%d", 0)}}}}});
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "13"}, {"FN_FLAG", "2"}}), (PlistDictionary{{"PunchHoles", "Holes3"}}));
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "0"}}), (PlistDictionary{{"PunchHoles", "None"}}));
     EXPECT_EQ(ppdFormat({{"FN_HOLES", "4"}}), (PlistDictionary{{"PunchHoles", "Holes-6"}}));
-
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Holes3"}}), (PlistDictionary{{"FN_HOLES", 13}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "None"}}), (PlistDictionary{{"FN_HOLES", 0}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Holes"}}), (PlistDictionary{{"FN_HOLES", 10}}));
     EXPECT_EQ(inputMgrFormat({{"PunchHoles", "Staple2"}}), PlistDictionary());
     EXPECT_EQ(inputMgrFormat({{"Flag", true}}), PlistDictionary());
-}
-
-TEST(PrintOptionConverterTable, NumberedPatternTakesTheDigitsToTheEndOfTheKeyword) {
-    TableBundle bundle({{"RotationAngle", PlistDictionary{{"tagKey", "IM_ROTATE"},
-                                                          {"items", PlistArray{item("%d", 0)}}}}});
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "Rotate270"}}), (PlistDictionary{{"IM_ROTATE", 270}}));
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "A1_2"}}), (PlistDictionary{{"IM_ROTATE", 1}}));
     EXPECT_EQ(inputMgrFormat({{"RotationAngle", "Upright"}}), (PlistDictionary{{"IM_ROTATE", 0}}));
@@ -200,21 +197,13 @@ TEST_F(ProductBundle, ShippedTableConvertsThePressesSettingsToPpdChoices) {
         {"CL_HAIRLINE", "1000"}, {"SC_SECURE", "1"},     {"JB_USER", "SALES\xC2\xA5kim"}, {"PP_CUSTNO", "7"},
         {"UNKNOWN", "1"}};
     EXPECT_EQ(ConverterTest::entriesOf(*ToPpdKeywordFormat(&inputMgrOption)),
-              ConverterTest::entriesOf({{"DuplexMode", "DuplexTumble"},
-                                        {"QVInputSlot", "TrayMSI"},
-                                        {"ChgPrintPaperSizeType", "A4SEF"},
-                                        {"ChgPrintPaperSizeWidth", "119055"},
-                                        {"StapleMode", "Saddle"},
-                                        {"PunchHoles", "Holes3"},
-                                        {"QZRGBColorCorrect", "sRGBAutoAdjust"},
-                                        {"QZSaveFile", "PDF300dpi"},
-                                        {"QZSaveFile_DPI", "300"},
-                                        {"Magnification", "755"},
-                                        {"RotationAngle", "Rotate90"},
-                                        {"HairLineWarningPoint", "100"},
-                                        {"SecPrint", true},
-                                        {"UserName", "SALES\\kim"},
-                                        {"PaperTypeCustomNumber", "7"}}));
+              ConverterTest::entriesOf({{"DuplexMode", "DuplexTumble"}, {"QVInputSlot", "TrayMSI"},
+                                        {"ChgPrintPaperSizeType", "A4SEF"}, {"ChgPrintPaperSizeWidth", "119055"},
+                                        {"StapleMode", "Saddle"}, {"PunchHoles", "Holes3"},
+                                        {"QZRGBColorCorrect", "sRGBAutoAdjust"}, {"QZSaveFile", "PDF300dpi"},
+                                        {"QZSaveFile_DPI", "300"}, {"Magnification", "755"},
+                                        {"RotationAngle", "Rotate90"}, {"HairLineWarningPoint", "100"},
+                                        {"SecPrint", true}, {"UserName", "SALES\\kim"}, {"PaperTypeCustomNumber", "7"}}));
 }
 
 TEST_F(ProductBundle, ShippedTableConvertsPpdChoicesBackToTags) {
@@ -225,17 +214,9 @@ TEST_F(ProductBundle, ShippedTableConvertsPpdChoicesBackToTags) {
         {"PageRegion", "A4"},             {"PageSize", "A4"},            {"PaperTypeCustomNumber", "None"},
         {"StkType", "Name"}};
     EXPECT_EQ(ConverterTest::entriesOf(*ToInputMgrFormat(&ppdOption)),
-              ConverterTest::entriesOf({{"JB_DUPLEX", 1},
-                                        {"PP_TRAY", 3},
-                                        {"PP_SIZE", 108},
-                                        {"FN_OUTBIN", 2},
-                                        {"FN_PUNCH", 2},
-                                        {"FN_HOLES", 9},
-                                        {"SP_SAVEFT", 1},
-                                        {"IM_MAG", "100"},
-                                        {"SC_SECURE", false},
-                                        {"PP_PGSIZE", 3},
-                                        {"PP_CUSTNO", 0}}));
+              ConverterTest::entriesOf({{"JB_DUPLEX", 1}, {"PP_TRAY", 3}, {"PP_SIZE", 108}, {"FN_OUTBIN", 2},
+                                        {"FN_PUNCH", 2}, {"FN_HOLES", 9}, {"SP_SAVEFT", 1}, {"IM_MAG", "100"},
+                                        {"SC_SECURE", false}, {"PP_PGSIZE", 3}, {"PP_CUSTNO", 0}}));
     EXPECT_EQ(converter.inputMgrTagValue("ChgPrintPaperSizeType", "A3"), PlistValue(1));
     EXPECT_EQ(converter.inputMgrTagValue("CoverPageTray", "TrayAuto"), PlistValue(0));
 }
@@ -275,5 +256,28 @@ TEST_F(ProductBundle, ShippedTableNamesOnlyOptionsAndChoicesOfTheSamplePpd) {
             if (optionKeyword.ends_with("%d")) continue;
             EXPECT_TRUE(ppd->isExists(mainKeyword, optionKeyword)) << mainKeyword << " " << optionKeyword;
         }
+    }
+}
+
+TEST(PaperSize, RecordGivesTypeNumberHeightAndWidthAsStringsForExactNamesOnly) {
+    EXPECT_EQ(PrintOptionConverter::getCepSizeFromPaperSizeType("A4LEF"),
+              (PlistDictionary{{"typeNum", "2"}, {"height", "119056"}, {"width", "168378"}}));
+    EXPECT_EQ(PrintOptionConverter::getCepSizeFromPaperSizeType("Envchou2SEF"),
+              (PlistDictionary{{"typeNum", "134"}, {"height", "157040"}, {"width", "67465"}}));
+    for (const char* name : {"a4lef", "A4lef", "Custom", "NoChange", "", " A4LEF", "A4"})
+        EXPECT_FALSE(PrintOptionConverter::getCepSizeFromPaperSizeType(name)) << name;
+}
+
+// Names are unique (the first match wins). Long-edge-feed sheets lie across the feed;
+// short-edge-feed and plain names stand up, except the sizes the press feeds across
+// although their names carry no suffix.
+TEST(PaperSize, EveryNameIsUniqueAndLongEdgeFeedSizesAreWiderThanHigh) {
+    const std::set<std::string_view> lyingWithoutSuffix{"A4Booklet", "B5Booklet", "A5Booklet", "85x110Booklet", "260x180",
+                                                        "A6Booklet", "B6Booklet", "260x190",   "16KaiLEFC"};
+    std::set<std::string_view> names;
+    for (const PaperSize& size : PaperSize::all()) {
+        EXPECT_TRUE(names.insert(size.name).second) << size.name;
+        const bool lying = std::string_view(size.name).ends_with("LEF") || lyingWithoutSuffix.contains(size.name);
+        EXPECT_EQ(size.height < size.width, lying) << size.name;
     }
 }

@@ -5,34 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "core/PlistIO.h"
 #include "core/PlistValue.h"
 #include "ppd/PrintOptionConverter.h"
 
 namespace ComQuorvantVelmar_Plugin {
 
-// Readable failure messages for dictionaries.
-inline void PrintTo(const PlistValue& value, std::ostream* out) {
-    if (const auto* text = value.string()) {
-        *out << '"' << *text << '"';
-    } else if (const auto* flag = value.boolean()) {
-        *out << (*flag ? "true" : "false");
-    } else if (const auto* number = value.integer()) {
-        *out << *number;
-    } else if (const auto* number = value.real()) {
-        *out << *number;
-    } else if (const auto* dictionary = value.dictionary()) {
-        *out << '{';
-        for (const auto& [key, item] : *dictionary) {
-            *out << '"' << key << "\": ";
-            PrintTo(item, out);
-            *out << ", ";
-        }
-        *out << '}';
-    } else {
-        *out << (value.isNull() ? "null" : "[...]");
-    }
-}
-
+// Readable failure messages for dictionaries: their property list text.
+inline void PrintTo(const PlistValue& value, std::ostream* out) { *out << PlistIO::serialize(value); }
 inline void PrintTo(const PlistDictionary& dictionary, std::ostream* out) { PrintTo(PlistValue(dictionary), out); }
 
 }  // namespace ComQuorvantVelmar_Plugin

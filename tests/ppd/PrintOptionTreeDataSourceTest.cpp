@@ -186,7 +186,7 @@ TEST_F(SummaryTree, TheResolvedNodeGivesChildrenAndLabel) {
               (std::vector<std::string>{"Booklet layout", "  Binding edge", "  Cover"}));
 }
 
-TEST_F(SummaryTree, LabelsAndIconsFollowTheNodeKind) {
+TEST_F(SummaryTree, LabelsAndIconsFollowTheNodeKindAndAPaneNotLoadedCannotBeSelected) {
     useTree({pane("Finishing", {setting("Punch"), setting("Staple mode", true)}), pane("Unloaded"),
              pane("SpotColorDetailsRGB_"), group("Imposition", {}),
              PlistDictionary{{"items", PlistArray{PlistDictionary{{"plugInName", "Imposition_Booklet"}}}}},
@@ -201,10 +201,7 @@ TEST_F(SummaryTree, LabelsAndIconsFollowTheNodeKind) {
     EXPECT_EQ(tree.objectValueForItem(topLevel(3)), (OutlineCell{"Imposition", false, "text-x-generic"}));
     EXPECT_EQ(tree.objectValueForItem(topLevel(4)).label, "  Imposition");
     EXPECT_EQ(tree.objectValueForItem(topLevel(5)).label, "");
-}
-
-TEST_F(SummaryTree, APaneThatIsNotLoadedCannotBeSelected) {
-    useTree({pane("Finishing", {setting("Punch")}), pane("Unloaded")});
+    // The grayed pane, which is not loaded, cannot be selected.
     EXPECT_TRUE(outline.selectItem(topLevel(0)));
     EXPECT_FALSE(outline.selectItem(topLevel(1)));
     EXPECT_EQ(outline.selectedItem(), topLevel(0));

@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "print_service/PrintServiceResultCodes.h"
 #include "print_service/PrintServiceSoap.h"
 #include "print_service/PrintServiceSoapOperations.h"
+#include "print_service/PrintServiceSoap_envelope.h"
 #include "print_service/PrintService_PropKeyValue.h"
 #include "print_service/SOAPFault.h"
 #include "print_service/SoapReplies.h"
@@ -191,4 +193,33 @@ TEST(PrintServiceReplyDecoding, MalformedReplyIsReportedTwiceAndTolerated) {
     silent.connectionDidFinishLoading();
     EXPECT_EQ(delegate.calls, 2);
     EXPECT_FALSE(silent.responseData());
+}
+
+TEST(PrintServiceReplyDecoding, ResponseWrittenBySerializationReadsBackAsItWas) {
+    PrintService_GetJobResourceListResponse written;
+    written.resInfo = std::make_shared<PrintService_PropArray>();
+    auto record = std::make_shared<PrintService_PropDict>();
+    auto name = std::make_shared<PrintService_PropKeyValue>();
+    name->key = "JobRecListName";
+    name->val = PrintServiceValue("Booklet");
+    record->addItem(name);
+    written.resInfo->addItem(record);
+    written.status = PrintService_ServiceResult_enumFromString("JobNotFound");
+    written.bResult = USBoolean(false);
+    written.nDetail = 4.5;
+    const std::string envelope = PrintServiceSoap_envelope::sharedInstance().serializedFormUsingHeaderElements(
+        {}, {{"GetJobResourceListResponse", &written}});
+    auto parts = decoded<PrintServiceSoap_GetJobResourceList>(envelope)
+                     .bodyPartsOfType<PrintService_GetJobResourceListResponse>();
+    ASSERT_EQ(parts.size(), 1u) << envelope;
+    const auto& read = *parts[0];
+    EXPECT_EQ(read.status, 7);
+    EXPECT_EQ(read.bResult, USBoolean(false));
+    EXPECT_EQ(read.nDetail, 4.5);
+    ASSERT_TRUE(read.resInfo);
+    ASSERT_EQ(read.resInfo->item.size(), 1u);
+    const auto* readRecord = PrintServiceValueObject<PrintService_PropDict>(read.resInfo->item[0]);
+    ASSERT_TRUE(readRecord);
+    EXPECT_EQ(keyValue(*readRecord, 0).key, "JobRecListName");
+    EXPECT_EQ(text(keyValue(*readRecord, 0)), "Booklet");
 }
