@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 #include <filesystem>
 #include <optional>
@@ -51,10 +50,6 @@ protected:
     void select(const std::string& title) {
         popup().selectItemAtIndex(popup().indexOfItemWithTitle(title));
         panel().selectFavorite();
-    }
-    std::string model(const std::string& key) {
-        const PlistValue* value = panel().printOption().find(key);
-        return value ? TarnPDEByCocoa::_stringFromBooleanIfNeed(*value).stringOr("<not text>") : "<absent>";
     }
 
 private:
@@ -119,14 +114,13 @@ TEST_F(FavoritePopup, SelectingAFavoritePutsItsValuesIntoTheModelAndTheSettings)
     panel().saveFavorite("Trimmed", "");
     // The defaults entry stands for the panes' defaults; the panel's own settings stay.
     select("Default Settings");
-    EXPECT_EQ(model("Trimmer"), "False");
-    EXPECT_EQ(model("StapleMode"), "Saddle");
+    EXPECT_EQ(scope().option("Trimmer"), "False");
+    EXPECT_EQ(scope().option("StapleMode"), "Saddle");
     EXPECT_FALSE(panel().deleteFavoriteButton()->isEnabled());
     scope().userChanges("StapleMode", "None");
-    std::cerr << "\n";
     select("Trimmed");
-    EXPECT_EQ(model("Trimmer"), "True");
-    EXPECT_EQ(model("StapleMode"), "Saddle");
+    EXPECT_EQ(scope().option("Trimmer"), "True");
+    EXPECT_EQ(scope().option("StapleMode"), "Saddle");
     EXPECT_EQ(scope().manager().getStringValueFromKey("Trimmer"), "True");
     EXPECT_EQ(scope().manager().getStringValueFromKey("DuplexMode"), "DuplexNoTumble");
     EXPECT_EQ(panel().selectedFavorite(), "Trimmed");
