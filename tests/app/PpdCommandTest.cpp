@@ -6,9 +6,10 @@
 #include <filesystem>
 
 #include "CommandRunner.h"
-#include "support/CupsTestServer.h"
 #include "TestSupport.h"
 #include "ppd/PpdFile.h"
+#include "print_service/LoopbackHttpServer.h"
+#include "support/CupsTestServer.h"
 
 using OstrinTest::dataPath;
 using OstrinTest::runCommand;
@@ -124,4 +125,14 @@ TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
     auto unknown = runCommand({"--queue", "NoSuchQueue", "ppd"}, {}, environment);
     EXPECT_EQ(unknown.exitCode, 3);
     EXPECT_EQ(unknown.err, "ostrin-flow: queue NoSuchQueue: no such queue\n");
+}
+
+TEST(PpdCommand, CupsdBreakingOffExitsFourNotUnknownQueue) {
+    OstrinTest::LoopbackHttpServer cupsd(
+        {OstrinTest::CannedReply::closing(), OstrinTest::CannedReply::closing(), OstrinTest::CannedReply::closing()});
+    const std::string host = "127.0.0.1:" + std::to_string(cupsd.port());
+    auto result = runCommand({"--queue", "Ostrin", "ppd"}, {}, {"CUPS_SERVER=" + host});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_TRUE(result.out.empty());
+    EXPECT_EQ(result.err, "ostrin-flow: queue Ostrin: cupsd at " + host + " cannot be reached\n");
 }

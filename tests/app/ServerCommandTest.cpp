@@ -14,6 +14,14 @@ namespace {
 
 std::string hostOf(const LoopbackHttpServer& server) { return "127.0.0.1:" + std::to_string(server.port()); }
 
+// Exit 4 and one line naming the print server at host.
+void expectUnreachable(const CommandResult& result, const std::string& host) {
+    EXPECT_EQ(result.exitCode, 4) << result.err;
+    EXPECT_TRUE(result.out.empty());
+    EXPECT_EQ(result.err.find('\n'), result.err.size() - 1) << result.err;
+    EXPECT_EQ(result.err.rfind("ostrin-flow: cannot reach the print server " + host + ": ", 0), 0u) << result.err;
+}
+
 }  // namespace
 
 TEST(ServerCommand, FontsArePrintedAsTsvOrJsonRows) {
@@ -64,6 +72,15 @@ TEST(ServerCommand, MalformedReplyExitsThree) {
     auto result = runCommand({"server", "fonts", "--host", hostOf(server)});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_NE(result.err.find("sent a reply that is not well-formed XML"), std::string::npos) << result.err;
+}
+
+// Absent, breaking off or flooding its reply: the command ends within its own time limits.
+TEST(ServerCommand, PrintServerAbsentResettingOrFloodingMidReplyExitsFour) {
+    const std::string absent = "127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort());
+    expectUnreachable(runCommand({"server", "stackers", "--host", absent}), absent);
+    LoopbackHttpServer server({CannedReply::resetHalfWay(4096), CannedReply::endless()});
+    expectUnreachable(runCommand({"server", "fonts", "--host", hostOf(server)}), hostOf(server));
+    expectUnreachable(runCommand({"server", "fonts", "--host", hostOf(server)}), hostOf(server));
 }
 
 TEST(ServerCommand, BadListOptionOrMissingHostExitsTwo) {
