@@ -92,9 +92,6 @@ TEST_F(CupsQueueHostTest, OpensWithThePpdTheDeviceUriAndTheSavedOptions) {
     }
 }
 
-// The job holds the PPD choices, the escaped custom entries and the standard settings; the
-// lp arguments of the same settings, raw values of every awkward kind among them, give the
-// same job through a shell.
 TEST_F(CupsQueueHostTest, JobHoldsThePanelsChoicesAndLpArgumentsGiveTheSameJob) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
@@ -205,8 +202,6 @@ TEST_F(CupsQueueHostTest, AHomeWithoutRoomForSavedOptionsIsReported) {
     EXPECT_EQ(OstrinTest::readFile(server.clientHome() + "/.cups"), "a file where the folder belongs");
 }
 
-// An unknown queue, an unreadable file, a queue removed after opening: input errors that
-// say which.
 TEST_F(CupsQueueHostTest, UnknownQueuesAndUnreadableFilesAreInputErrors) {
     CupsQueueHost::Opening opening;
     CupsClient::run([&] { opening = CupsQueueHost::open("nosuch"); });

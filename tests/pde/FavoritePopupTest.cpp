@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <filesystem>
-#include <optional>
 
 #include "PanelTestSupport.h"
 #include "TestSupport.h"
@@ -24,14 +23,10 @@ namespace {
 // The panel with its favorites and trash in a private home, shown as the dialog shows it.
 class FavoritePopup : public ::testing::Test {
 protected:
-    void SetUp() override {
-        _scope.emplace();
-        panel().willShow();
-    }
-    void TearDown() override { _scope.reset(); }
+    void SetUp() override { panel().willShow(); }
 
-    PanelScope& scope() { return *_scope; }
-    TarnPDEByCocoa& panel() { return _scope->panel(); }
+    PanelScope& scope() { return _scope; }
+    TarnPDEByCocoa& panel() { return _scope.panel(); }
     PopUpMenuModel& popup() { return panel().favoritePopup(); }
     std::string favorite(const std::string& name) const {
         return _home.file("config/Quorvant/OstrinFlow/PDE/favorite/" + name + ".pqz");
@@ -56,7 +51,7 @@ private:
     OstrinTest::TemporaryDirectory _home;
     OstrinTest::EnvironmentOverride _config{"XDG_CONFIG_HOME", _home.file("config")};
     OstrinTest::EnvironmentOverride _data{"XDG_DATA_HOME", _home.file("data")};
-    std::optional<PanelScope> _scope;
+    PanelScope _scope;
 };
 
 }  // namespace

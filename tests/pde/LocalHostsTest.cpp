@@ -14,8 +14,6 @@ const std::string SamplePpdPath =
 
 }  // namespace
 
-// The host starts from the PPD's defaults with no settings; a change marks only a choice the
-// PPD offers and carries it in the print settings.
 TEST(PpdFileHost, PpdChangesMarkOnlyTheChoicesThePpdOffers) {
     std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
     ASSERT_TRUE(host);

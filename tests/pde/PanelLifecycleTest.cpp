@@ -94,13 +94,10 @@ TEST(PanelEntry, SummaryOfAPanelNeverShownBuildsItAndSavesFirst) {
 TEST(PanelEntry, DefaultsCoverThePanelsOwnSettingsAndTrayBeforeTheyAreBuilt) {
     PanelScope scope;
     const PlistDictionary& defaults = scope.panel().defaultPrintOption();
-    EXPECT_EQ(defaults.stringFor("DuplexMode"), "None");
-    EXPECT_EQ(defaults.stringFor("QVInputSlot"), "AutoSelect");
-    EXPECT_EQ(defaults.stringFor("PaperTypeD"), "Auto");
-    EXPECT_EQ(defaults.stringFor("PaperTypeCustomName"), "");
-    EXPECT_EQ(defaults.stringFor("PaperColorBypass"), "Auto");
-    ASSERT_TRUE(defaults.find("PagePrintOnCenter"));
-    EXPECT_EQ(*defaults.find("PagePrintOnCenter"), PlistValue(false));
+    const PlistDictionary expected{{"DuplexMode", "None"},       {"QVInputSlot", "AutoSelect"},
+                                   {"PaperTypeD", "Auto"},       {"PaperTypeCustomName", ""},
+                                   {"PaperColorBypass", "Auto"}, {"PagePrintOnCenter", false}};
+    for (const auto& [key, value] : expected) EXPECT_TRUE(defaults.find(key) && *defaults.find(key) == value) << key;
     EXPECT_FALSE(defaults.contains("MediaTypeWeightBypass"));
     EXPECT_EQ(scope.panel().printOption(), defaults);
 }

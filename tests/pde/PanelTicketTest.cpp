@@ -21,8 +21,6 @@ void setCustomEntry(InMemoryPdeHost& host, const std::string& key, const std::st
 
 }  // namespace
 
-// A choice of the PPD is marked there and clears the custom entry of an earlier save; a
-// value the PPD does not offer rides in the custom entry while the PPD keeps its default.
 TEST(PanelSave, ValidChoicesAreMarkedInThePpdAndOtherValuesRideInTheCustomEntry) {
     PanelScope scope;
     setCustomEntry(scope.host(), "StapleMode", "LeftoverFromAnOlderDriver");

@@ -82,13 +82,10 @@ TEST(PanelValues, RestoreShowsBothSheetsAndTheBypassSwitch) {
                                 {"MediaTypeDrilled", ""}};
     scope.panel()._restoreValuesToPane(printOption);
     PanePlugInMgr& manager = scope.manager();
-    EXPECT_EQ(manager.getStringValueFromKey("AutoTraySettingToBypass"), "True");
-    EXPECT_EQ(manager.getStringValueFromKey("PaperColorBypass"), "Yellow");
-    EXPECT_EQ(manager.getStringValueFromKey("MediaTypeSequenceBypass"), "2");
-    EXPECT_EQ(manager.getStringValueFromKey("PaperTypeD"), "Coated");
-    EXPECT_EQ(manager.getStringValueFromKey("MediaTypeWeight"), "64to80");
-    EXPECT_EQ(manager.getStringValueFromKey("MediaTypeDrilled"), "None");
-    EXPECT_EQ(manager.getStringValueFromKey("StapleMode"), "Saddle");
+    for (const auto& [key, shown] : {std::pair{"AutoTraySettingToBypass", "True"}, {"PaperColorBypass", "Yellow"},
+                                     {"MediaTypeSequenceBypass", "2"}, {"PaperTypeD", "Coated"},
+                                     {"MediaTypeWeight", "64to80"}, {"MediaTypeDrilled", "None"}, {"StapleMode", "Saddle"}})
+        EXPECT_EQ(manager.getStringValueFromKey(key), shown) << key;
     EXPECT_EQ(scope.panel().panelControl("StapleMode")->getOldValue(), "Saddle");
     EXPECT_FALSE(scope.panel().bypassPaperTraySelectionButton()->isEnabled());
 

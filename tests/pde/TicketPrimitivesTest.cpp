@@ -26,9 +26,6 @@ struct StandardSettings : ::testing::Test {
 
 }  // namespace
 
-// With the host's PPD change hook the print settings are the ticket, else the legacy ticket;
-// the value is stored escaped and answered as stored; the legacy ticket names the panel as
-// its writer.
 TEST(TicketPrimitives, BothBackEndsKeepTheEscapedValueAndAnswerItAsStored) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -50,7 +47,6 @@ TEST(TicketPrimitives, BothBackEndsKeepTheEscapedValueAndAnswerItAsStored) {
     EXPECT_EQ(value, "a%x2Cb");
 }
 
-// Without a value the print settings drop the entry; the legacy ticket refuses and keeps it.
 TEST(TicketPrimitives, SetWithoutValueRemovesFromThePrintSettingsOnly) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -97,7 +93,6 @@ TEST(TicketPrimitives, MissingPiecesAnswerParamErr) {
     EXPECT_EQ(number, 0);
 }
 
-// Custom entries live under the prefixed key; without a key they answer 0 and do nothing.
 TEST(TicketPrimitives, CustomEntriesLiveUnderThePrefixedKey) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -194,8 +189,6 @@ TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
     EXPECT_EQ(standard.getCollate(), "True");
 }
 
-// A job without them prints one collated one-sided copy; duplex is read from the sides, and
-// sides cupsd does not know print one-sided.
 TEST_F(StandardSettings, DuplexIsReadFromSidesAndAJobWithoutThemPrintsOneCollatedOneSidedCopy) {
     EXPECT_EQ(standard.getCopies(), "1");
     EXPECT_EQ(standard.getCollate(), "True");
