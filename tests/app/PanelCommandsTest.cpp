@@ -89,8 +89,6 @@ std::vector<std::string> with(std::vector<std::string> first, const std::vector<
 
 }  // namespace
 
-// The printed job holds the PPD choices, the escaped custom entries and the job name; the lp
-// arguments of the same settings, through a shell, give the same job.
 TEST_F(PanelCommands, PrintedJobHoldsTheSettingsAndTheLpFormatGivesTheSameJob) {
     const int printed = printedJob(run(with({"print", document, "--job-name", JobName}, Settings)));
     ASSERT_GT(printed, 0);

@@ -77,8 +77,6 @@ TEST(PpdCommand, ListsAGivenPpdFileAsText) {
               std::string::npos);
 }
 
-// A malformed or missing PPD or bundle is an input error, an unreachable cupsd exit 4, a
-// format the command does not offer a usage error; each says so in one line.
 TEST(PpdCommand, ErrorsEndWithTheirCodeAndOneLine) {
     const std::string malformed = dataPath("ppd/malformed.ppd");
     auto result = runCommand({"--ppd", malformed, "ppd", "--format", "json"});

@@ -74,7 +74,6 @@ TEST(ServerCommand, MalformedReplyExitsThree) {
     EXPECT_NE(result.err.find("sent a reply that is not well-formed XML"), std::string::npos) << result.err;
 }
 
-// Absent, breaking off or flooding its reply: the command ends within its own time limits.
 TEST(ServerCommand, PrintServerAbsentResettingOrFloodingMidReplyExitsFour) {
     const std::string absent = "127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort());
     expectUnreachable(runCommand({"server", "stackers", "--host", absent}), absent);
