@@ -7,6 +7,7 @@
 
 #include "CommandRunner.h"
 #include "TestSupport.h"
+#include "pde/CupsClient.h"
 #include "ppd/PpdFile.h"
 #include "print_service/LoopbackHttpServer.h"
 #include "support/CupsTestServer.h"
@@ -103,12 +104,10 @@ TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
     OstrinTest::CupsTestServer cupsd;
     if (!cupsd.unavailableReason().empty()) GTEST_SKIP() << cupsd.unavailableReason();
     ASSERT_TRUE(cupsd.addQueue("Ostrin", SamplePpdPath));
-    OstrinTest::TemporaryDirectory home;
+    OstrinTest::CupsClient client(cupsd);
     OstrinTest::TemporaryDirectory temporary;
-    const std::vector<std::string> environment = {"CUPS_SERVER=" + cupsd.serverName(), "HOME=" + home.path(),
-                                                  "TMPDIR=" + temporary.path()};
-    auto saved = OstrinTest::runShell("CUPS_SERVER=" + cupsd.serverName() + " HOME='" + home.path() +
-                                      "' lpoptions -p Ostrin -o QZMediaType=Coated");
+    const std::vector<std::string> environment = {"TMPDIR=" + temporary.path()};
+    auto saved = OstrinTest::runShell("lpoptions -p Ostrin -o QZMediaType=Coated");
     ASSERT_EQ(saved.exitCode, 0) << saved.output;
 
     auto result = runCommand({"--queue", "Ostrin", "ppd", "--format", "json"}, {}, environment);

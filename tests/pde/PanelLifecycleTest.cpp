@@ -72,15 +72,6 @@ TEST(PanelEntry, BuildingShowsTheTraysAndFinishingThePrinterReports) {
     EXPECT_EQ(scope.manager().getStringValueFromKey("OutputTray"), "Auto");
 }
 
-TEST(PanelEntry, ShowingAndHidingTrackWhetherThePanelIsTheOneShown) {
-    PanelScope scope;
-    EXPECT_FALSE(scope.panel().isMyPluginPDE());
-    scope.panel().willShow();
-    EXPECT_TRUE(scope.panel().isMyPluginPDE());
-    EXPECT_TRUE(scope.panel().shouldHide());
-    EXPECT_FALSE(scope.panel().isMyPluginPDE());
-}
-
 TEST(PanelEntry, SummaryOfAPanelNeverShownBuildsItAndSavesFirst) {
     PanelScope scope;
     ASSERT_TRUE(scope.host().printSettings()->values().empty());

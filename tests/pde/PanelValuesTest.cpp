@@ -98,7 +98,7 @@ TEST(PanelValues, RestoreShowsBothSheetsAndTheBypassSwitch) {
     EXPECT_EQ(manager.getStringValueFromKey("PagePrintOnCenter"), "False");
 }
 
-TEST(PanelValues, RestoreWhileShownPushesCopiesAndTrayIntoThePrintSettings) {
+TEST(PanelValues, RestoreOnlyWhileShownPushesCopiesAndTrayIntoThePrintSettings) {
     PanelScope scope;
     scope.panel()._buildUi();
     scope.panel()._restoreValuesToPane(PlistDictionary{{"NumCopies", "3"}, {"QVInputSlot", "Tray2"}});
@@ -109,6 +109,10 @@ TEST(PanelValues, RestoreWhileShownPushesCopiesAndTrayIntoThePrintSettings) {
     EXPECT_EQ(scope.setting("copies"), "3");
     EXPECT_EQ(scope.setting("QVInputSlot"), "Tray2");
     EXPECT_EQ(scope.manager().getStringValueFromKey("QVInputSlot"), "Tray2");
+
+    EXPECT_TRUE(scope.panel().shouldHide());
+    scope.panel()._restoreValuesToPane(PlistDictionary{{"NumCopies", "4"}});
+    EXPECT_EQ(scope.setting("copies"), "3");
 }
 
 TEST(PanelValues, ChangesOfObservedSettingsReachTheModelAtOnce) {
