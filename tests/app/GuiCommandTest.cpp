@@ -17,7 +17,8 @@ const std::string SamplePpdPath = std::string(OSTRIN_BUILD_BUNDLE_DIR) + "/Conte
 }  // namespace
 
 TEST(GuiCommand, OpensThePpdWindowAndClosesCleanlyOnAnXDisplay) {
-    if (OstrinTest::runShell("command -v xvfb-run").exitCode != 0) GTEST_SKIP() << "no xvfb-run for a virtual X display";
+    if (OstrinTest::runShell("command -v xvfb-run && command -v xauth").exitCode != 0)
+        GTEST_SKIP() << "no xvfb-run (package xvfb) for a virtual X display";
     OstrinTest::TemporaryDirectory runtime;
     ::chmod(runtime.path().c_str(), 0700);
     // A desktop session without a message bus: libdbus is told so rather than left to try
