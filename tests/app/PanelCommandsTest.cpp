@@ -11,8 +11,10 @@
 #include "CommandRunner.h"
 #include "TestSupport.h"
 #include "pde/CupsClient.h"
+#include "pde/TicketValueEscaping.h"
 #include "support/CupsTestServer.h"
 
+namespace TicketValueEscaping = ComQuorvantVelmar_Plugin::TicketValueEscaping;
 using OstrinTest::runCommand;
 using Json = nlohmann::ordered_json;
 
@@ -48,13 +50,8 @@ bool sameSetting(const std::string& restored, const std::string& saved) {
            restoredNumber == savedNumber;
 }
 
-std::string unescapeTicket(std::string text) {
-    for (const auto& [escaped, original] : {std::pair{"%x25", "%"}, {"%x27", "'"}, {"%x2C", ","}})
-        for (std::size_t at; (at = text.find(escaped)) != std::string::npos;) text.replace(at, 4, original);
-    return text;
-}
-
-// A private cupsd with the sample press queue; each test has its own HOME for the saved options.
+// A private cupsd with the sample press queue; its private HOME keeps the saved options, for
+// the command and for lp alike.
 class PanelCommands : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -67,26 +64,16 @@ protected:
 
     OstrinTest::CommandResult run(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), {"--queue", Queue});
-        return runCommand(arguments, {}, environment());
-    }
-    std::vector<std::string> environment() const {
-        return {"CUPS_SERVER=" + cupsd.serverName(), "HOME=" + home.path(), "TMPDIR=" + temporary.path()};
-    }
-    std::string shellEnvironment() const {
-        return "CUPS_SERVER=" + cupsd.serverName() + " HOME='" + home.path() + "' ";
+        return runCommand(arguments, {}, {"TMPDIR=" + folder.path()});
     }
     int printedJob(const OstrinTest::CommandResult& result) {
         EXPECT_EQ(result.exitCode, 0) << result.err;
         return result.exitCode == 0 ? std::stoi(result.out) : 0;
     }
-
-    // Job attributes as cupsd holds them (strings unquoted).
-    std::map<std::string, std::string> jobAttributes(int job) { return client->jobAttributes(job); }
+    std::string lpArguments() const { return "-d " + Queue + " '" + document + "' "; }
 
     OstrinTest::CupsTestServer cupsd;
     std::optional<OstrinTest::CupsClient> client;
-    OstrinTest::TemporaryDirectory home;
-    OstrinTest::TemporaryDirectory temporary;
     OstrinTest::TemporaryDirectory folder;
     const std::string document = folder.file("page.txt");
 };
@@ -102,34 +89,27 @@ std::vector<std::string> with(std::vector<std::string> first, const std::vector<
 
 }  // namespace
 
-TEST_F(PanelCommands, PrintedJobHoldsThePpdChoicesCustomEntriesAndJobName) {
-    const int job = printedJob(run(with({"print", document, "--job-name", JobName}, Settings)));
-    ASSERT_GT(job, 0);
-    auto attributes = jobAttributes(job);
-    EXPECT_EQ(attributes["job-name"], JobName);
-    EXPECT_EQ(attributes["StapleMode"], "TopLeftCorner");
-    EXPECT_EQ(attributes["DuplexMode"], "DuplexNoTumble");
-    EXPECT_EQ(attributes["copies"], "2");
+TEST_F(PanelCommands, PrintedJobHoldsTheSettingsAndTheLpFormatGivesTheSameJob) {
+    const int printed = printedJob(run(with({"print", document, "--job-name", JobName}, Settings)));
+    ASSERT_GT(printed, 0);
+    auto byPrint = client->jobAttributes(printed);
+    EXPECT_EQ(byPrint["job-name"], JobName);
+    EXPECT_EQ(byPrint["StapleMode"], "TopLeftCorner");
+    EXPECT_EQ(byPrint["DuplexMode"], "DuplexNoTumble");
+    EXPECT_EQ(byPrint["copies"], "2");
     // Not a choice of the PPD: the PPD keeps its default, the value rides in the custom entry.
-    EXPECT_EQ(attributes["MediaTypeSequence"], "0");
-    EXPECT_EQ(attributes[CustomPrefix + "MediaTypeSequence"], "7");
-    EXPECT_EQ(attributes[CustomPrefix + "PaperTypeCustomName"], "Gloss %x27A%x27%x2C \"B\" 50%x25");
-    EXPECT_EQ(unescapeTicket(attributes[CustomPrefix + "PaperTypeCustomName"]), PaperName);
-    EXPECT_EQ(attributes[CustomPrefix + "QZSpecificJobName"], "Input");
-    EXPECT_EQ(unescapeTicket(attributes[CustomPrefix + "JobName"]), JobName);
-}
+    EXPECT_EQ(byPrint["MediaTypeSequence"], "0");
+    EXPECT_EQ(byPrint[CustomPrefix + "MediaTypeSequence"], "7");
+    EXPECT_EQ(byPrint[CustomPrefix + "PaperTypeCustomName"], "Gloss %x27A%x27%x2C \"B\" 50%x25");
+    EXPECT_EQ(byPrint[CustomPrefix + "QZSpecificJobName"], "Input");
+    EXPECT_EQ(TicketValueEscaping::unescape(byPrint[CustomPrefix + "JobName"]), JobName);
 
-TEST_F(PanelCommands, LpGivenTheLpFormatThroughTheShellMakesTheSameJobAsPrint) {
-    const int printed = printedJob(run(with({"print", document}, Settings)));
-    const auto listing = run(with({"options", "--format", "json"}, Settings));
-    const auto arguments = run(with({"options", "--format", "lp"}, Settings));
+    const auto listing = run(with({"options", "--job-name", JobName, "--format", "json"}, Settings));
+    const auto arguments = run(with({"options", "--job-name", JobName, "--format", "lp"}, Settings));
     ASSERT_EQ(arguments.exitCode, 0) << arguments.err;
-    const auto lp = OstrinTest::runShell(shellEnvironment() + "lp -d " + Queue + " '" + document + "' " + arguments.out);
-    ASSERT_EQ(lp.exitCode, 0) << lp.output;
-    const int submitted = std::stoi(lp.output.substr(lp.output.find(Queue + "-") + Queue.size() + 1));
-
-    auto byPrint = jobAttributes(printed);
-    auto byLp = jobAttributes(submitted);
+    const int submitted = client->lp(lpArguments() + arguments.out);
+    ASSERT_GT(submitted, 0);
+    auto byLp = client->jobAttributes(submitted);
     const Json settings = Json::parse(listing.out);
     std::size_t compared = 0;
     for (const auto& [name, value] : settings["ppd"].items()) {
@@ -140,11 +120,11 @@ TEST_F(PanelCommands, LpGivenTheLpFormatThroughTheShellMakesTheSameJobAsPrint) {
     }
     for (const auto& [name, value] : settings["custom"].items()) {
         EXPECT_EQ(byLp[CustomPrefix + name], byPrint[CustomPrefix + name]) << name;
-        EXPECT_TRUE(equalsIgnoringCase(unescapeTicket(byPrint[CustomPrefix + name]), value.get<std::string>())) << name;
+        const std::string stored = TicketValueEscaping::unescape(byPrint[CustomPrefix + name]);
+        EXPECT_TRUE(equalsIgnoringCase(stored, value.get<std::string>())) << name;
         ++compared;
     }
     EXPECT_EQ(byLp["copies"], "2");
-    EXPECT_EQ(byLp["job-name"], byPrint["job-name"]);
     EXPECT_GT(compared, 100u);
     EXPECT_EQ(settings["custom"]["PaperTypeCustomName"], PaperName);
 }
@@ -166,48 +146,36 @@ TEST_F(PanelCommands, SaveDefaultsThenRestoreGivesBackEverySavedValue) {
         expected[key] = value;
     const Json dictionary = Json::parse(restored.out);
     std::size_t compared = 0;
-    std::vector<std::string> missing;
     for (const auto& [key, value] : expected.items()) {
+        // The keyword conversion folds these into other keys: the fitting of the imposition
+        // modes other than the current one, the user id type of an empty user id.
         if (!dictionary.contains(key)) {
-            missing.push_back(key);
+            EXPECT_TRUE(key == "ImpositionNup_Fitting" || key == "ImpositionBooklet_Fitting" ||
+                        key == "AuthJobUserIdType")
+                << key;
             continue;
         }
         EXPECT_TRUE(sameSetting(textOf(dictionary[key]), textOf(value))) << key << ": " << dictionary[key];
         ++compared;
     }
     EXPECT_GT(compared, 100u);
-    // The keyword conversion folds these into other keys: the fitting of the imposition
-    // modes other than the current one, the user id type of an empty user id.
-    for (const std::string& key : missing)
-        EXPECT_TRUE(key == "ImpositionNup_Fitting" || key == "ImpositionBooklet_Fitting" || key == "AuthJobUserIdType")
-            << key;
-    // The saved options serve lp too.
-    const auto lp = OstrinTest::runShell(shellEnvironment() + "lp -d " + Queue + " '" + document + "'");
-    ASSERT_EQ(lp.exitCode, 0) << lp.output;
-    const int job = std::stoi(lp.output.substr(lp.output.find(Queue + "-") + Queue.size() + 1));
-    EXPECT_EQ(jobAttributes(job)["StapleMode"], "TopLeftCorner");
-    EXPECT_EQ(unescapeTicket(jobAttributes(job)[CustomPrefix + "PaperTypeCustomName"]), PaperName);
 }
 
 TEST_F(PanelCommands, ConflictKeptAtSaveTimeSubmitsNoJob) {
-    const auto saved = OstrinTest::runShell(shellEnvironment() + "lpoptions -p " + Queue +
+    const auto saved = OstrinTest::runShell("lpoptions -p " + Queue +
                                             " -o sides=two-sided-long-edge -o QZMediaType=Transparency");
     ASSERT_EQ(saved.exitCode, 0) << saved.output;
     const auto refused = run({"print", document});
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_NE(refused.err.find("(answered \"Self Resolve Conflict\" by --answer no)"), std::string::npos) << refused.err;
     EXPECT_EQ(refused.out, "");
-
-    const auto resolved = runCommand({"--queue", Queue, "--answer", "yes", "print", document}, {}, environment());
-    const int job = printedJob(resolved);
-    EXPECT_EQ(jobAttributes(job)["QZMediaType"], "Plain");
+    const int job = printedJob(run({"--answer", "yes", "print", document}));
+    EXPECT_EQ(client->jobAttributes(job)["QZMediaType"], "Plain");
 }
 
 TEST_F(PanelCommands, UnknownQueueIsAnInputErrorAndAMissingCupsdIsUnreachable) {
-    const auto unknown = runCommand({"--queue", "nowhere", "print", document}, {}, environment());
-    EXPECT_EQ(unknown.exitCode, 3);
-    const auto unreachable =
-        runCommand({"--queue", Queue, "restore"}, {}, {"CUPS_SERVER=127.0.0.1:1", "HOME=" + home.path()});
+    EXPECT_EQ(runCommand({"--queue", "nowhere", "print", document}).exitCode, 3);
+    const auto unreachable = runCommand({"--queue", Queue, "restore"}, {}, {"CUPS_SERVER=127.0.0.1:1"});
     EXPECT_EQ(unreachable.exitCode, 4);
     EXPECT_NE(unreachable.err.find("cannot be reached"), std::string::npos) << unreachable.err;
 }

@@ -6,9 +6,11 @@
 #include <filesystem>
 
 #include "CommandRunner.h"
-#include "support/CupsTestServer.h"
 #include "TestSupport.h"
+#include "pde/CupsClient.h"
 #include "ppd/PpdFile.h"
+#include "print_service/LoopbackHttpServer.h"
+#include "support/CupsTestServer.h"
 
 using OstrinTest::dataPath;
 using OstrinTest::runCommand;
@@ -76,8 +78,6 @@ TEST(PpdCommand, ListsAGivenPpdFileAsText) {
               std::string::npos);
 }
 
-// A malformed or missing PPD or bundle is an input error, an unreachable cupsd exit 4, a
-// format the command does not offer a usage error; each says so in one line.
 TEST(PpdCommand, ErrorsEndWithTheirCodeAndOneLine) {
     const std::string malformed = dataPath("ppd/malformed.ppd");
     auto result = runCommand({"--ppd", malformed, "ppd", "--format", "json"});
@@ -104,12 +104,10 @@ TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
     OstrinTest::CupsTestServer cupsd;
     if (!cupsd.unavailableReason().empty()) GTEST_SKIP() << cupsd.unavailableReason();
     ASSERT_TRUE(cupsd.addQueue("Ostrin", SamplePpdPath));
-    OstrinTest::TemporaryDirectory home;
+    OstrinTest::CupsClient client(cupsd);
     OstrinTest::TemporaryDirectory temporary;
-    const std::vector<std::string> environment = {"CUPS_SERVER=" + cupsd.serverName(), "HOME=" + home.path(),
-                                                  "TMPDIR=" + temporary.path()};
-    auto saved = OstrinTest::runShell("CUPS_SERVER=" + cupsd.serverName() + " HOME='" + home.path() +
-                                      "' lpoptions -p Ostrin -o QZMediaType=Coated");
+    const std::vector<std::string> environment = {"TMPDIR=" + temporary.path()};
+    auto saved = OstrinTest::runShell("lpoptions -p Ostrin -o QZMediaType=Coated");
     ASSERT_EQ(saved.exitCode, 0) << saved.output;
 
     auto result = runCommand({"--queue", "Ostrin", "ppd", "--format", "json"}, {}, environment);
@@ -124,4 +122,14 @@ TEST(PpdCommand, ReadsTheQueuePpdFromCupsdWithTheSavedOptionsMarked) {
     auto unknown = runCommand({"--queue", "NoSuchQueue", "ppd"}, {}, environment);
     EXPECT_EQ(unknown.exitCode, 3);
     EXPECT_EQ(unknown.err, "ostrin-flow: queue NoSuchQueue: no such queue\n");
+}
+
+TEST(PpdCommand, CupsdBreakingOffExitsFourNotUnknownQueue) {
+    OstrinTest::LoopbackHttpServer cupsd(
+        {OstrinTest::CannedReply::closing(), OstrinTest::CannedReply::closing(), OstrinTest::CannedReply::closing()});
+    const std::string host = "127.0.0.1:" + std::to_string(cupsd.port());
+    auto result = runCommand({"--queue", "Ostrin", "ppd"}, {}, {"CUPS_SERVER=" + host});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_TRUE(result.out.empty());
+    EXPECT_EQ(result.err, "ostrin-flow: queue Ostrin: cupsd at " + host + " cannot be reached\n");
 }

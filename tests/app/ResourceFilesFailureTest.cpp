@@ -21,13 +21,8 @@ namespace {
 enum class Damage { Missing, Truncated, WrongKind, Garbage };
 
 const char* nameOf(Damage damage) {
-    switch (damage) {
-        case Damage::Missing: return "missing";
-        case Damage::Truncated: return "truncated";
-        case Damage::WrongKind: return "an array";
-        case Damage::Garbage: return "garbage";
-    }
-    return "";
+    constexpr const char* Names[] = {"missing", "truncated", "an array", "garbage"};
+    return Names[static_cast<int>(damage)];
 }
 
 constexpr Damage EveryDamage[] = {Damage::Missing, Damage::Truncated, Damage::WrongKind, Damage::Garbage};

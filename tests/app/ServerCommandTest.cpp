@@ -14,6 +14,14 @@ namespace {
 
 std::string hostOf(const LoopbackHttpServer& server) { return "127.0.0.1:" + std::to_string(server.port()); }
 
+// Exit 4 and one line naming the print server at host.
+void expectUnreachable(const CommandResult& result, const std::string& host) {
+    EXPECT_EQ(result.exitCode, 4) << result.err;
+    EXPECT_TRUE(result.out.empty());
+    EXPECT_EQ(result.err.find('\n'), result.err.size() - 1) << result.err;
+    EXPECT_EQ(result.err.rfind("ostrin-flow: cannot reach the print server " + host + ": ", 0), 0u) << result.err;
+}
+
 }  // namespace
 
 TEST(ServerCommand, FontsArePrintedAsTsvOrJsonRows) {
@@ -66,21 +74,28 @@ TEST(ServerCommand, MalformedReplyExitsThree) {
     EXPECT_NE(result.err.find("sent a reply that is not well-formed XML"), std::string::npos) << result.err;
 }
 
+TEST(ServerCommand, PrintServerAbsentResettingOrFloodingMidReplyExitsFour) {
+    const std::string absent = "127.0.0.1:" + std::to_string(LoopbackHttpServer::unusedPort());
+    expectUnreachable(runCommand({"server", "stackers", "--host", absent}), absent);
+    LoopbackHttpServer server({CannedReply::resetHalfWay(4096), CannedReply::endless()});
+    expectUnreachable(runCommand({"server", "fonts", "--host", hostOf(server)}), hostOf(server));
+    expectUnreachable(runCommand({"server", "fonts", "--host", hostOf(server)}), hostOf(server));
+}
+
 TEST(ServerCommand, BadListOptionOrMissingHostExitsTwo) {
-    auto unknown = runCommand({"server", "printers", "--host", "press"});
-    EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_NE(unknown.err.find("unknown server list \"printers\""), std::string::npos);
-    auto none = runCommand({"server", "--host", "press"});
-    EXPECT_EQ(none.exitCode, 2);
-    EXPECT_NE(none.err.find("server needs a LIST"), std::string::npos);
-    auto noHost = runCommand({"server", "fonts"});
-    EXPECT_EQ(noHost.exitCode, 2);
-    EXPECT_NE(noHost.err.find("server needs --host HOST"), std::string::npos);
-    EXPECT_EQ(runCommand({"server", "fonts", "--host", "press", "--kind", "1"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"server", "job-resources", "--host", "press", "--type", "x"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"server", "fonts", "--host", "press:99999"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"server", "fonts", "--host", "[fe80::1"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"server", "fonts", "--host", "press/other"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"server", "fonts", "extra", "--host", "press"}).exitCode, 2);
-    EXPECT_EQ(runCommand({"--format", "lp", "server", "fonts", "--host", "press"}).exitCode, 2);
+    for (const auto& [arguments, says] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"server", "printers", "--host", "press"}, "unknown server list \"printers\""},
+             {{"server", "--host", "press"}, "server needs a LIST"},
+             {{"server", "fonts"}, "server needs --host HOST"},
+             {{"server", "fonts", "--host", "press", "--kind", "1"}, ""},
+             {{"server", "job-resources", "--host", "press", "--type", "x"}, ""},
+             {{"server", "fonts", "--host", "press:99999"}, ""},
+             {{"server", "fonts", "--host", "[fe80::1"}, ""},
+             {{"server", "fonts", "--host", "press/other"}, ""},
+             {{"server", "fonts", "extra", "--host", "press"}, ""},
+             {{"--format", "lp", "server", "fonts", "--host", "press"}, ""}}) {
+        const auto result = runCommand(arguments);
+        EXPECT_EQ(result.exitCode, 2) << arguments[1] << " " << arguments.back();
+        EXPECT_NE(result.err.find(says), std::string::npos) << result.err;
+    }
 }

@@ -63,7 +63,6 @@ TEST(TerminalAlertPresenter, AtATerminalTheUserChoosesByNumber) {
     EXPECT_NE(output.text().find("  [1] Yes\n  [2] No\nChoose 1-2 [1]: "), std::string::npos);
 }
 
-// Without a terminal, or at the end of the input, the --answer option decides and says so.
 TEST(TerminalAlertPresenter, WithoutATerminalOrInputTheAnswerOptionDecides) {
     for (const bool terminal : {false, true}) {
         std::istringstream input(terminal ? "x\n" : "1\n");

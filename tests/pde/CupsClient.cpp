@@ -2,14 +2,11 @@
 
 #include <cups/cups.h>
 
-#include <cstdlib>
 #include <regex>
 #include <thread>
 
 namespace OstrinTest {
 namespace {
-
-constexpr const char* Variables[] = {"CUPS_SERVER", "HOME"};
 
 std::string valueText(ipp_attribute_t* attribute, int index) {
     switch (ippGetValueTag(attribute)) {
@@ -26,20 +23,8 @@ std::string valueText(ipp_attribute_t* attribute, int index) {
 
 }  // namespace
 
-CupsClient::CupsClient(const CupsTestServer& server) : _server(server) {
-    for (const char* name : Variables)
-        if (const char* value = std::getenv(name)) _previous[name] = value;
-    ::setenv("CUPS_SERVER", server.serverName().c_str(), 1);
-    ::setenv("HOME", server.clientHome().c_str(), 1);
-}
-
-CupsClient::~CupsClient() {
-    for (const char* name : Variables) {
-        auto previous = _previous.find(name);
-        if (previous == _previous.end()) ::unsetenv(name);
-        else ::setenv(name, previous->second.c_str(), 1);
-    }
-}
+CupsClient::CupsClient(const CupsTestServer& server)
+    : _server(server), _cupsServer("CUPS_SERVER", server.serverName()), _home("HOME", server.clientHome()) {}
 
 void CupsClient::run(const std::function<void()>& work) { std::thread(work).join(); }
 

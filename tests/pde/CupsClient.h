@@ -13,9 +13,6 @@ namespace OstrinTest {
 class CupsClient {
 public:
     explicit CupsClient(const CupsTestServer& server);
-    ~CupsClient();
-    CupsClient(const CupsClient&) = delete;
-    CupsClient& operator=(const CupsClient&) = delete;
 
     /// Runs work on a new thread and waits: libcups reads HOME and CUPS_SERVER once per
     /// thread, so a fresh thread sees the values set here.
@@ -29,7 +26,8 @@ public:
 
 private:
     const CupsTestServer& _server;
-    std::map<std::string, std::string> _previous;
+    EnvironmentOverride _cupsServer;
+    EnvironmentOverride _home;
 };
 
 }  // namespace OstrinTest

@@ -1,17 +1,19 @@
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 
+#include <chrono>
 #include <filesystem>
 
 #include "CupsClient.h"
+#include "pde/CupsConnection_p.h"
 #include "pde/CupsQueueHost.h"
 #include "pde/LpOptionQuoting.h"
 #include "pde/PrintSettingsTicket.h"
 #include "pde/StandardPrintSettings.h"
 #include "pde/TicketValueEscaping.h"
+#include "print_service/LoopbackHttpServer.h"
 
 using namespace ComQuorvantVelmar_Plugin;
+using OstrinTest::CannedReply;
 using OstrinTest::CupsClient;
 
 namespace {
@@ -90,9 +92,6 @@ TEST_F(CupsQueueHostTest, OpensWithThePpdTheDeviceUriAndTheSavedOptions) {
     }
 }
 
-// The job holds the PPD choices, the escaped custom entries and the standard settings; the
-// lp arguments of the same settings, raw values of every awkward kind among them, give the
-// same job through a shell.
 TEST_F(CupsQueueHostTest, JobHoldsThePanelsChoicesAndLpArgumentsGiveTheSameJob) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
@@ -174,7 +173,6 @@ TEST_F(CupsQueueHostTest, RemovedSettingsAreNotSavedAndEmptyOnesComeBackEmpty) {
     EXPECT_EQ(settings.text(PrintSettingsTicket::customKey("QZSpecificJobName")), "");
 }
 
-// A file size limit makes libcups stop half way through the file, as a full disk would.
 TEST_F(CupsQueueHostTest, AWriteThatStopsHalfWayPutsThePreviousSavedOptionsBack) {
     std::unique_ptr<CupsQueueHost> host = open();
     ASSERT_TRUE(host);
@@ -184,15 +182,9 @@ TEST_F(CupsQueueHostTest, AWriteThatStopsHalfWayPutsThePreviousSavedOptionsBack)
     ASSERT_NE(previous.find("QZMediaType=Bond"), std::string::npos) << previous;
 
     PrintSettingsTicket(*host)._customTicketSetString("JobName", std::string(4000, 'x'));
-    rlimit original{};
-    ::getrlimit(RLIMIT_FSIZE, &original);
-    rlimit limited = original;
-    limited.rlim_cur = previous.size() + 64;
-    auto* previousHandler = ::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &limited);
+    std::optional<OstrinTest::FileSizeLimit> limit(std::in_place, previous.size() + 64);
     const HostOutcome saved = save(*host);
-    ::setrlimit(RLIMIT_FSIZE, &original);
-    ::signal(SIGXFSZ, previousHandler);
+    limit.reset();
 
     EXPECT_EQ(saved.status, HostOutcome::Status::Failed);
     EXPECT_EQ(saved.message, "saving the options of press: " + lpoptionsPath() + " could not be written");
@@ -210,8 +202,6 @@ TEST_F(CupsQueueHostTest, AHomeWithoutRoomForSavedOptionsIsReported) {
     EXPECT_EQ(OstrinTest::readFile(server.clientHome() + "/.cups"), "a file where the folder belongs");
 }
 
-// An unknown queue, an unreadable file, a queue removed after opening: input errors that
-// say which.
 TEST_F(CupsQueueHostTest, UnknownQueuesAndUnreadableFilesAreInputErrors) {
     CupsQueueHost::Opening opening;
     CupsClient::run([&] { opening = CupsQueueHost::open("nosuch"); });
@@ -249,4 +239,24 @@ TEST_F(CupsQueueHostTest, AStoppedCupsdIsUnreachable) {
     CupsQueueHost::Opening opening;
     CupsClient::run([&] { opening = CupsQueueHost::open(Queue); });
     EXPECT_EQ(opening.outcome.status, HostOutcome::Status::Unreachable);
+}
+
+// A cupsd that breaks off, or falls silent past the reply timeout, while the queue opens.
+TEST(CupsFailure, CupsdClosingOrSilentIsUnreachableNotAnUnknownQueue) {
+    CannedReply silent = CannedReply::closing();
+    silent.delay = std::chrono::seconds(20);
+    for (const CannedReply& reply : {CannedReply::closing(), silent}) {
+        OstrinTest::LoopbackHttpServer cupsd({reply, reply, reply});
+        const std::string name = "127.0.0.1:" + std::to_string(cupsd.port());
+        OstrinTest::EnvironmentOverride server("CUPS_SERVER", name);
+        CupsConnection::setReplyTimeout(0.5);
+        const auto start = std::chrono::steady_clock::now();
+        CupsQueueHost::Opening opening;
+        CupsClient::run([&] { opening = CupsQueueHost::open("press"); });
+        CupsConnection::setReplyTimeout(CupsConnection::DefaultReplyTimeout);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+        EXPECT_FALSE(opening.host);
+        EXPECT_EQ(opening.outcome.status, HostOutcome::Status::Unreachable) << opening.outcome.message;
+        EXPECT_EQ(opening.outcome.message, "queue press: cupsd at " + name + " cannot be reached");
+    }
 }

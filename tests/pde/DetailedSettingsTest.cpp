@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "PanelTestSupport.h"
-#include "core/PreferredLanguages.h"
 #include "panes/PanePlugInMgr.h"
 #include "pde/DetailedSettingsWinController.h"
 #include "settings_ui/TabViewNode.h"
@@ -78,14 +77,11 @@ TEST(DetailedSettings, RevertShowsTheDefaultsInEveryPane) {
     EXPECT_EQ(scope.manager().getStringValueFromKey("SamplePrintMode"), "Normal");
 }
 
+// "es" is tested before "de": a language tag holding both gets the Spanish width.
 TEST(DetailedSettings, TreeColumnIsWidestForSpanishAndMatchesLanguagesInOrder) {
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("pt-ES"), 460);
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("de-DE"), 230);
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("it"), 365);
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("fr-CA"), 415);
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("ja"), 185);
-    // "es" is tested before "de": a language tag holding both gets the Spanish width.
-    EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage("de-ES"), 460);
+    for (const auto& [language, width] : {std::pair{"pt-ES", 460}, {"de-DE", 230}, {"it", 365}, {"fr-CA", 415},
+                                          {"ja", 185}, {"de-ES", 460}})
+        EXPECT_EQ(DetailedSettingsWinController::treeColumnWidthForLanguage(language), width) << language;
 }
 
 TEST(DetailedSettings, EveryPaneOfTheTreeBecomesATabOncePerPaneManager) {

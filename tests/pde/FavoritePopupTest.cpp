@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 #include <filesystem>
-#include <optional>
 
 #include "PanelTestSupport.h"
 #include "TestSupport.h"
@@ -25,14 +23,10 @@ namespace {
 // The panel with its favorites and trash in a private home, shown as the dialog shows it.
 class FavoritePopup : public ::testing::Test {
 protected:
-    void SetUp() override {
-        _scope.emplace();
-        panel().willShow();
-    }
-    void TearDown() override { _scope.reset(); }
+    void SetUp() override { panel().willShow(); }
 
-    PanelScope& scope() { return *_scope; }
-    TarnPDEByCocoa& panel() { return _scope->panel(); }
+    PanelScope& scope() { return _scope; }
+    TarnPDEByCocoa& panel() { return _scope.panel(); }
     PopUpMenuModel& popup() { return panel().favoritePopup(); }
     std::string favorite(const std::string& name) const {
         return _home.file("config/Quorvant/OstrinFlow/PDE/favorite/" + name + ".pqz");
@@ -52,16 +46,12 @@ protected:
         popup().selectItemAtIndex(popup().indexOfItemWithTitle(title));
         panel().selectFavorite();
     }
-    std::string model(const std::string& key) {
-        const PlistValue* value = panel().printOption().find(key);
-        return value ? TarnPDEByCocoa::_stringFromBooleanIfNeed(*value).stringOr("<not text>") : "<absent>";
-    }
 
 private:
     OstrinTest::TemporaryDirectory _home;
     OstrinTest::EnvironmentOverride _config{"XDG_CONFIG_HOME", _home.file("config")};
     OstrinTest::EnvironmentOverride _data{"XDG_DATA_HOME", _home.file("data")};
-    std::optional<PanelScope> _scope;
+    PanelScope _scope;
 };
 
 }  // namespace
@@ -119,14 +109,13 @@ TEST_F(FavoritePopup, SelectingAFavoritePutsItsValuesIntoTheModelAndTheSettings)
     panel().saveFavorite("Trimmed", "");
     // The defaults entry stands for the panes' defaults; the panel's own settings stay.
     select("Default Settings");
-    EXPECT_EQ(model("Trimmer"), "False");
-    EXPECT_EQ(model("StapleMode"), "Saddle");
+    EXPECT_EQ(scope().option("Trimmer"), "False");
+    EXPECT_EQ(scope().option("StapleMode"), "Saddle");
     EXPECT_FALSE(panel().deleteFavoriteButton()->isEnabled());
     scope().userChanges("StapleMode", "None");
-    std::cerr << "\n";
     select("Trimmed");
-    EXPECT_EQ(model("Trimmer"), "True");
-    EXPECT_EQ(model("StapleMode"), "Saddle");
+    EXPECT_EQ(scope().option("Trimmer"), "True");
+    EXPECT_EQ(scope().option("StapleMode"), "Saddle");
     EXPECT_EQ(scope().manager().getStringValueFromKey("Trimmer"), "True");
     EXPECT_EQ(scope().manager().getStringValueFromKey("DuplexMode"), "DuplexNoTumble");
     EXPECT_EQ(panel().selectedFavorite(), "Trimmed");

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "pde/InMemoryPdeHost.h"
+#include "pde/DeviceUriHostName.h"
 #include "pde/PpdFileHost.h"
+#include "pde/PrintSettings.h"
 
 using namespace ComQuorvantVelmar_Plugin;
 
@@ -11,14 +12,8 @@ namespace {
 const std::string SamplePpdPath =
     std::string(OSTRIN_BUILD_BUNDLE_DIR) + "/Contents/Resources/OstrinFlow.ppd";
 
-std::unique_ptr<PpdFileExt> openSample() {
-    return PpdFileExt::initWithContentsOfFile(SamplePpdPath);
-}
-
 }  // namespace
 
-// The host starts from the PPD's defaults with no settings; a change marks only a choice the
-// PPD offers and carries it in the print settings.
 TEST(PpdFileHost, PpdChangesMarkOnlyTheChoicesThePpdOffers) {
     std::unique_ptr<PpdFileHost> host = PpdFileHost::open(SamplePpdPath);
     ASSERT_TRUE(host);
@@ -57,36 +52,6 @@ TEST(PpdFileHost, AnUnreadablePpdGivesNoHostAndSaysWhy) {
     EXPECT_FALSE(error.empty());
 }
 
-TEST(InMemoryPdeHost, WithTheHookPpdChangesAreMarkedAndRecorded) {
-    InMemoryPdeHost host(InMemoryPdeHost::Flavour::WithPpdChangeHook, openSample());
-    ASSERT_NE(host.ppd(), nullptr);
-    EXPECT_EQ(host.legacyTicket(), nullptr);
-    EXPECT_TRUE(host.willChangePPDOptionKeyValue("StapleMode", "TopLeftCorner"));
-    EXPECT_FALSE(host.willChangePPDOptionKeyValue("StapleMode", "Everywhere"));
-    EXPECT_EQ(host.ppd()->findMarkedChoice("StapleMode"), PlistValue("TopLeftCorner"));
-    EXPECT_EQ(host.printSettings()->text("StapleMode"), "TopLeftCorner");
-    EXPECT_EQ(host.ppdChanges(),
-              (std::vector<std::pair<std::string, std::string>>{{"StapleMode", "TopLeftCorner"}}));
-}
-
-TEST(InMemoryPdeHost, WithoutTheHookPpdChangesAreRefused) {
-    InMemoryPdeHost host(InMemoryPdeHost::Flavour::WithoutPpdChangeHook, openSample());
-    EXPECT_FALSE(host.respondsToWillChangePPDOptionKeyValue());
-    EXPECT_NE(host.legacyTicket(), nullptr);
-    EXPECT_FALSE(host.willChangePPDOptionKeyValue("StapleMode", "TopLeftCorner"));
-    EXPECT_TRUE(host.printSettings()->values().empty());
-    EXPECT_TRUE(host.ppdChanges().empty());
-}
-
-TEST(InMemoryPdeHost, WithoutAPpdTheChoiceIsOnlyCarried) {
-    InMemoryPdeHost host(InMemoryPdeHost::Flavour::WithPpdChangeHook);
-    EXPECT_EQ(host.ppdFile(), nullptr);
-    EXPECT_TRUE(host.willChangePPDOptionKeyValue("StapleMode", "TopLeftCorner"));
-    EXPECT_EQ(host.printSettings()->text("StapleMode"), "TopLeftCorner");
-    host.setDeviceUri("socket://press:9100");
-    EXPECT_EQ(host.deviceUri(), "socket://press:9100");
-}
-
 TEST(PrintSettings, HoldStringsAndNumbersAndGiveThemAsCupsOptionsInOrder) {
     PrintSettings settings;
     EXPECT_TRUE(settings.setValue("copies", 2));
@@ -114,4 +79,21 @@ TEST(PpdFileHost, AChoiceMarkedAlreadyIsStillCarriedAndLinkedOptionsStayInStep) 
     EXPECT_TRUE(host->willChangePPDOptionKeyValue("PageSize", "A3"));
     EXPECT_EQ(host->ppd().findMarkedChoice("PageSize"), PlistValue("A3"));
     EXPECT_TRUE(host->ppd().findMarkedChoice("PageRegion").isNull());
+}
+
+// A leading "v1." goes and then only the first "+" becomes "%"; other hosts stay as they
+// are, percent escapes decoded; a URI without a host leaves it unset.
+TEST(HostName, TakenFromTheDeviceUri) {
+    const std::pair<const char*, std::optional<std::string>> cases[] = {
+        {"socket://v1.abc+def+x:9100", "abc%def+x"},
+        {"ipp://v1.press/ipp/print", "press"},
+        {"socket://x.v1.abc:9100", "x.v1.abc"},
+        {"lpd://press+1.example.com/queue", "press+1.example.com"},
+        {"ipp://192.0.2.7:631/printers/press", "192.0.2.7"},
+        {"dnssd://Ostrin%20Press._ipp._tcp.local./", "Ostrin Press._ipp._tcp.local."},
+        {"file:///dev/null", std::nullopt},
+        {"", std::nullopt},
+        {"not a uri", std::nullopt},
+    };
+    for (const auto& [uri, host] : cases) EXPECT_EQ(hostNameFromDeviceUri(uri), host) << uri;
 }

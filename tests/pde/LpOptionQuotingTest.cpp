@@ -9,15 +9,11 @@
 
 using namespace ComQuorvantVelmar_Plugin;
 
-// Blanks, quotes and backslashes go behind a backslash; a name lp cannot carry (empty,
-// with a blank or "=") and a value with a NUL byte are refused.
-TEST(LpOptionQuoting, EachArgumentEscapesWhatLpWouldParse) {
+// A name lp cannot carry (empty, with a blank or "=") and a value with a NUL byte are refused;
+// what lp's parser makes of the other values is checked below.
+TEST(LpOptionQuoting, NamesAndValuesLpCannotCarryAreRefused) {
     const std::tuple<std::string, std::string, std::optional<std::string>> cases[] = {
         {"QZMediaType", "Plain", "QZMediaType=Plain"},
-        {"n", "a b\tc", "n=a\\ b\\\tc"},
-        {"n", "it's \"x\"", "n=it\\'s\\ \\\"x\\\""},
-        {"n", "C:\\out", "n=C:\\\\out"},
-        {"n", "50%x25,a=b", "n=50%x25,a=b"},
         {"n", "", "n="},
         {"", "x", std::nullopt},
         {"two words", "x", std::nullopt},
@@ -27,16 +23,10 @@ TEST(LpOptionQuoting, EachArgumentEscapesWhatLpWouldParse) {
     for (const auto& [name, value, argument] : cases)
         EXPECT_EQ(LpOptionQuoting::lpOptionArgument(name, value), argument) << name << "=" << value;
     EXPECT_EQ(LpOptionQuoting::lpArguments({{"good", "1"}, {"bad name", "2"}}), std::nullopt);
-}
-
-TEST(LpOptionQuoting, ArgumentsAreSingleQuotedForTheShell) {
-    EXPECT_EQ(LpOptionQuoting::shellQuote("it's"), "'it'\\''s'");
-    EXPECT_EQ(LpOptionQuoting::lpArguments({{"copies", "2"}, {"n", "O'Neil"}}),
-              "-o 'copies=2' -o 'n=O\\'\\''Neil'");
     EXPECT_EQ(LpOptionQuoting::lpArguments({}), "");
 }
 
-// The shell must hand lp exactly the escaped argument, whatever the value holds.
+// Each argument single-quoted: the shell hands lp exactly the escaped argument.
 TEST(LpOptionQuoting, TheShellPassesEachArgumentUnchanged) {
     const std::vector<CupsOptionText> options{
         {"a", "two  spaces"}, {"b", "it's"},     {"c", "\"$HOME\" `id` $(id)"},

@@ -72,15 +72,6 @@ TEST(PanelEntry, BuildingShowsTheTraysAndFinishingThePrinterReports) {
     EXPECT_EQ(scope.manager().getStringValueFromKey("OutputTray"), "Auto");
 }
 
-TEST(PanelEntry, ShowingAndHidingTrackWhetherThePanelIsTheOneShown) {
-    PanelScope scope;
-    EXPECT_FALSE(scope.panel().isMyPluginPDE());
-    scope.panel().willShow();
-    EXPECT_TRUE(scope.panel().isMyPluginPDE());
-    EXPECT_TRUE(scope.panel().shouldHide());
-    EXPECT_FALSE(scope.panel().isMyPluginPDE());
-}
-
 TEST(PanelEntry, SummaryOfAPanelNeverShownBuildsItAndSavesFirst) {
     PanelScope scope;
     ASSERT_TRUE(scope.host().printSettings()->values().empty());
@@ -94,13 +85,10 @@ TEST(PanelEntry, SummaryOfAPanelNeverShownBuildsItAndSavesFirst) {
 TEST(PanelEntry, DefaultsCoverThePanelsOwnSettingsAndTrayBeforeTheyAreBuilt) {
     PanelScope scope;
     const PlistDictionary& defaults = scope.panel().defaultPrintOption();
-    EXPECT_EQ(defaults.stringFor("DuplexMode"), "None");
-    EXPECT_EQ(defaults.stringFor("QVInputSlot"), "AutoSelect");
-    EXPECT_EQ(defaults.stringFor("PaperTypeD"), "Auto");
-    EXPECT_EQ(defaults.stringFor("PaperTypeCustomName"), "");
-    EXPECT_EQ(defaults.stringFor("PaperColorBypass"), "Auto");
-    ASSERT_TRUE(defaults.find("PagePrintOnCenter"));
-    EXPECT_EQ(*defaults.find("PagePrintOnCenter"), PlistValue(false));
+    const PlistDictionary expected{{"DuplexMode", "None"},       {"QVInputSlot", "AutoSelect"},
+                                   {"PaperTypeD", "Auto"},       {"PaperTypeCustomName", ""},
+                                   {"PaperColorBypass", "Auto"}, {"PagePrintOnCenter", false}};
+    for (const auto& [key, value] : expected) EXPECT_TRUE(defaults.find(key) && *defaults.find(key) == value) << key;
     EXPECT_FALSE(defaults.contains("MediaTypeWeightBypass"));
     EXPECT_EQ(scope.panel().printOption(), defaults);
 }

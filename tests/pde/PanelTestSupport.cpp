@@ -29,6 +29,13 @@ std::unique_ptr<PpdFileExt> openSamplePpd() {
     return ppd;
 }
 
+std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
+    const PlistValue* value = dictionary.find(key);
+    if (!value) return "<absent>";
+    if (const bool* flag = value->boolean()) return *flag ? "True" : "False";
+    return value->stringOr("<not text>");
+}
+
 namespace {
 
 class PlayingRunner : public ModalWindowRunner {

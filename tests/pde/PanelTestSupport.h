@@ -19,6 +19,9 @@ std::string samplePpdPath();
 /// The sample PPD opened with its defaults marked, as a new job starts; nullptr on failure.
 std::unique_ptr<PpdFileExt> openSamplePpd();
 
+/// key's value in dictionary as text, a boolean as "True" or "False"; "<absent>" when absent.
+std::string textOf(const PlistDictionary& dictionary, const std::string& key);
+
 /// Plays the user's part in every modal window with play, until the next call; an empty
 /// play restores the runner that shows nothing.
 void runWindowsWith(std::function<void(ModalWindow&)> play);
@@ -41,6 +44,8 @@ public:
     /// A new panel over the same host and manager, as the dialog's next opening makes one.
     void reopenPanel();
 
+    /// The panel's model value of key, as textOf gives it.
+    std::string option(const std::string& key) { return textOf(_panel->printOption(), key); }
     /// The custom entry of key as stored (escaped); nothing when absent.
     std::optional<std::string> storedCustom(const std::string& key);
     /// The print settings' value of key as text; nothing when absent.

@@ -15,21 +15,12 @@ namespace {
 
 using Flavour = InMemoryPdeHost::Flavour;
 
-std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
-    const PlistValue* value = dictionary.find(key);
-    if (!value) return "<absent>";
-    if (const bool* flag = value->boolean()) return *flag ? "True" : "False";
-    return value->stringOr("<not text>");
-}
-
 void setCustomEntry(InMemoryPdeHost& host, const std::string& key, const std::string& stored) {
     host.printSettings()->setValue(PrintSettingsTicket::customKey(key), stored);
 }
 
 }  // namespace
 
-// A choice of the PPD is marked there and clears the custom entry of an earlier save; a
-// value the PPD does not offer rides in the custom entry while the PPD keeps its default.
 TEST(PanelSave, ValidChoicesAreMarkedInThePpdAndOtherValuesRideInTheCustomEntry) {
     PanelScope scope;
     setCustomEntry(scope.host(), "StapleMode", "LeftoverFromAnOlderDriver");
@@ -44,7 +35,7 @@ TEST(PanelSave, ValidChoicesAreMarkedInThePpdAndOtherValuesRideInTheCustomEntry)
     EXPECT_EQ(scope.storedCustom("MediaTypeSequence"), "7");
     EXPECT_EQ(scope.setting("MediaTypeSequence"), "0");
     EXPECT_EQ(scope.marked("MediaTypeSequence"), "0");
-    EXPECT_EQ(textOf(scope.panel().printOption(), "MediaTypeSequence"), "7");
+    EXPECT_EQ(scope.option("MediaTypeSequence"), "7");
 }
 
 TEST(PanelSave, ValueWithoutPpdOptionIsOnlyACustomEntry) {
@@ -145,8 +136,8 @@ TEST(PanelRestore, StartsFromTheDefaultsAndTakesTheJobNameProfileAndMarkedChoice
     scope.panel().willShow();
 
     EXPECT_TRUE(scope.panel().restoreValuesAndReturnError());
-    EXPECT_EQ(textOf(scope.panel().printOption(), "ColorMode"), "Color");
-    EXPECT_EQ(textOf(scope.panel().printOption(), "DuplexMode"), "DuplexTumble");
+    EXPECT_EQ(scope.option("ColorMode"), "Color");
+    EXPECT_EQ(scope.option("DuplexMode"), "DuplexTumble");
     EXPECT_EQ(scope.manager().getStringValueFromKey("DuplexMode"), "DuplexTumble");
     EXPECT_EQ(scope.panel().specificJobNameValue(), "Input");
     EXPECT_EQ(scope.panel().jobNameValue(), "Q3, final");

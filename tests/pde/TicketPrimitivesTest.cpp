@@ -2,6 +2,7 @@
 
 #include "pde/InMemoryPdeHost.h"
 #include "pde/PrintSettingsTicket.h"
+#include "pde/StandardPrintSettings.h"
 #include "pde/TicketValueEscaping.h"
 
 using namespace ComQuorvantVelmar_Plugin;
@@ -17,11 +18,14 @@ std::optional<std::string> stored(InMemoryPdeHost& host, const std::string& key)
     return value && value->string() ? std::optional<std::string>(*value->string()) : std::nullopt;
 }
 
+struct StandardSettings : ::testing::Test {
+    InMemoryPdeHost host{InMemoryPdeHost::Flavour::WithPpdChangeHook};
+    StandardPrintSettings standard{host};
+    PrintSettings& settings = *host.printSettings();
+};
+
 }  // namespace
 
-// With the host's PPD change hook the print settings are the ticket, else the legacy ticket;
-// the value is stored escaped and answered as stored; the legacy ticket names the panel as
-// its writer.
 TEST(TicketPrimitives, BothBackEndsKeepTheEscapedValueAndAnswerItAsStored) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -43,7 +47,6 @@ TEST(TicketPrimitives, BothBackEndsKeepTheEscapedValueAndAnswerItAsStored) {
     EXPECT_EQ(value, "a%x2Cb");
 }
 
-// Without a value the print settings drop the entry; the legacy ticket refuses and keeps it.
 TEST(TicketPrimitives, SetWithoutValueRemovesFromThePrintSettingsOnly) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -90,7 +93,6 @@ TEST(TicketPrimitives, MissingPiecesAnswerParamErr) {
     EXPECT_EQ(number, 0);
 }
 
-// Custom entries live under the prefixed key; without a key they answer 0 and do nothing.
 TEST(TicketPrimitives, CustomEntriesLiveUnderThePrefixedKey) {
     InMemoryPdeHost host(Flavour::WithPpdChangeHook);
     PrintSettingsTicket ticket(host);
@@ -164,4 +166,78 @@ TEST(TicketValueEscaping, EscapesAndDecodesPercentFirst) {
     EXPECT_EQ(TicketValueEscaping::unescape("%x25x27"), "'");
     EXPECT_EQ(TicketValueEscaping::unescape(TicketValueEscaping::escape("%x2C")), ",");
     EXPECT_EQ(TicketValueEscaping::unescape("%x25x25"), "%x25");
+}
+
+// Written as cupsd's words; read back, every word cupsd takes for false is "False".
+TEST_F(StandardSettings, CopiesAndCollateAreCupsOptions) {
+    standard.setCopies("3");
+    standard.setCollate(false);
+    EXPECT_EQ(settings.text("copies"), "3");
+    EXPECT_EQ(settings.text("collate"), "false");
+    EXPECT_EQ(standard.getCopies(), "3");
+    EXPECT_EQ(standard.getCollate(), "False");
+    standard.setCollate(true);
+    EXPECT_EQ(settings.text("collate"), "true");
+    EXPECT_EQ(standard.getCollate(), "True");
+    settings.setValue("copies", 4);
+    EXPECT_EQ(standard.getCopies(), "4");
+    for (const char* word : {"false", "No", "OFF"}) {
+        settings.setValue("collate", word);
+        EXPECT_EQ(standard.getCollate(), "False") << word;
+    }
+    settings.setValue("collate", "yes");
+    EXPECT_EQ(standard.getCollate(), "True");
+}
+
+TEST_F(StandardSettings, DuplexIsReadFromSidesAndAJobWithoutThemPrintsOneCollatedOneSidedCopy) {
+    EXPECT_EQ(standard.getCopies(), "1");
+    EXPECT_EQ(standard.getCollate(), "True");
+    EXPECT_EQ(standard.getDuplex(), "None");
+    EXPECT_TRUE(settings.values().empty());
+    for (const auto& [sides, duplex] : {std::pair{"two-sided-long-edge", "DuplexNoTumble"},
+                                        {"two-sided-short-edge", "DuplexTumble"}, {"one-sided", "None"},
+                                        {"sideways", "None"}}) {
+        settings.setValue("sides", sides);
+        EXPECT_EQ(standard.getDuplex(), duplex) << sides;
+    }
+}
+
+TEST_F(StandardSettings, SetDuplexNeverChangesSidesAndNoTraySlotKeepsTheTray) {
+    standard.setDuplex(std::string("DuplexTumble"));
+    EXPECT_EQ(settings.value("sides"), nullptr);
+    settings.setValue("sides", "one-sided");
+    standard.setDuplex(std::string("DuplexNoTumble"));
+    standard.setDuplex(std::nullopt);
+    EXPECT_EQ(settings.text("sides"), "one-sided");
+    standard.setQVInputSlot(std::string("Tray3"));
+    EXPECT_EQ(settings.text("QVInputSlot"), "Tray3");
+    standard.setQVInputSlot(std::nullopt);
+    EXPECT_EQ(settings.text("QVInputSlot"), "Tray3");
+}
+
+TEST_F(StandardSettings, HiddenSettingsAreNeitherReadNorWritten) {
+    settings.setValue("copies", "2");
+    settings.setValue("collate", "false");
+    settings.setValue("sides", "two-sided-long-edge");
+    standard.setHiddenFlags(true, true, true);
+    EXPECT_EQ(standard.getCopies(), std::nullopt);
+    EXPECT_EQ(standard.getCollate(), std::nullopt);
+    EXPECT_EQ(standard.getDuplex(), std::nullopt);
+    standard.setCopies("5");
+    standard.setCollate(true);
+    EXPECT_EQ(settings.text("copies"), "2");
+    EXPECT_EQ(settings.text("collate"), "false");
+
+    standard.setHiddenFlags(false, true, false);
+    EXPECT_EQ(standard.getCopies(), "2");
+    EXPECT_EQ(standard.getDuplex(), std::nullopt);
+}
+
+TEST_F(StandardSettings, AHostWithoutPrintSettingsAnswersNothing) {
+    host.removePrintSettings();
+    EXPECT_EQ(standard.getCopies(), std::nullopt);
+    EXPECT_EQ(standard.getCollate(), std::nullopt);
+    EXPECT_EQ(standard.getDuplex(), std::nullopt);
+    standard.setCopies("2");
+    standard.setQVInputSlot(std::string("Tray1"));
 }
