@@ -3,7 +3,7 @@
 #include "SettingsTestSupport.h"
 #include "settings_ui/IOTOptionUpdater.h"
 
-using namespace ComQuorvantVelmar_Plugin;
+using namespace SettingsTest;
 
 namespace {
 
@@ -26,18 +26,18 @@ TEST(IOTOptionUpdater, OnlyTheExactTextTrueCountsAsInstalled) {
 }
 
 TEST(IOTOptionUpdater, PunchKeepsTheChoicesOfItsDevicesOrIsHidden) {
-    auto punch = SettingsTest::buildControl("Punch_PunchHoles");
+    auto punch = buildControl("Punch_PunchHoles");
     EXPECT_TRUE(updateWithPunch(*punch, PlistDictionary{{"quadPunch", "true"}, {"doublePunch", "false"}}));
     EXPECT_FALSE(punch->isHidden());
-    EXPECT_EQ(SettingsTest::popupChoices(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
+    EXPECT_EQ(popupChoices(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
     punch->selectItemAtIndex(2);
     EXPECT_EQ(punch->getStringValue(), "TopHoles4");
-    auto hidden = SettingsTest::buildControl("Punch_PunchHoles");
+    auto hidden = buildControl("Punch_PunchHoles");
     EXPECT_FALSE(updateWithPunch(*hidden, PlistDictionary{{"quadPunch", "True"}, {"offset", "true"}}));
     EXPECT_TRUE(hidden->isHidden());
-    EXPECT_EQ(SettingsTest::popupChoices(*hidden).size(), 8u);
+    EXPECT_EQ(popupChoices(*hidden).size(), 8u);
     IOTOptionUpdater::Groups devices, options;
-    auto staple = SettingsTest::buildControl("StapleMode");
+    auto staple = buildControl("StapleMode");
     EXPECT_FALSE(IOTOptionUpdater::updatePopupButtonComponent(staple.get(), nullptr, &devices, &options));
     EXPECT_TRUE(staple->isHidden());
     EXPECT_FALSE(IOTOptionUpdater::updatePopupButtonComponent(nullptr, nullptr, nullptr, nullptr));
@@ -84,7 +84,7 @@ TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodes) {
 }
 
 TEST(IOTOptionUpdater, InputSlotPopupShowsItsOwnTrayTexts) {
-    auto slot = SettingsTest::buildControl("QVInputSlot");
+    auto slot = buildControl("QVInputSlot");
     PlistArray trays;
     IOTOptionUpdater::getInputSlotArray(trays, PlistArray{PlistArray{"2", "Number"}, PlistArray{"4", "Number"}}, {"0"},
                                         {"25"}, true, false);

@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestSupport.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
+using namespace SettingsTest;
 
 namespace {
 

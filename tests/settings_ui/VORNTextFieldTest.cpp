@@ -1,15 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestSupport.h"
-#include "core/Bundle.h"
-#include "core/LocalizedString.h"
-#include "settings_ui/NotifyUnit.h"
 #include "settings_ui/VORNSecureTextField.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::AlertScript;
-using SettingsTest::Language;
-using SettingsTest::NotificationRecorder;
+using namespace SettingsTest;
 
 namespace {
 
@@ -44,7 +38,7 @@ bool type(VORNTextField& field, const std::string& text) {
 }
 
 void useProductCatalogues() {
-    SetNSBundleForLocalizedString(Bundle::bundleWithPath(SettingsTest::productBundlePath()));
+    SetNSBundleForLocalizedString(Bundle::bundleWithPath(productBundlePath()));
 }
 
 }  // namespace
@@ -92,7 +86,7 @@ TEST(NumberInput, GermanEndOfEditNormalisesAndReportsInGerman) {
     Language german("de");
     useProductCatalogues();
     AlertScript alerts({AlertFirstButtonReturn});
-    auto control = SettingsTest::buildControl("CreasePosition1");
+    auto control = buildControl("CreasePosition1");
     VORNTextField& field = *control->textField();
     NotificationRecorder recorder({"CreasePosition1"});
     field.textDidBeginEditing();

@@ -4,12 +4,8 @@
 
 #include "SettingsTestSupport.h"
 #include "core/Diagnostics.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::buildControl;
-using SettingsTest::Language;
-using SettingsTest::NotificationRecorder;
+using namespace SettingsTest;
 
 namespace {
 
@@ -93,7 +89,7 @@ TEST(Popup, ItemArraysAddAndRemoveEntries) {
     paper->setStringValue("Custom_Off_Uncoated_Off_None_1");
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
     paper->removePopupButtonArray(PlistArray{"Transparency", PlistArray{"x", "Envelope"}});
-    EXPECT_EQ(SettingsTest::popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
+    EXPECT_EQ(popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
                                                            "Custom_Off_Uncoated_Off_None_1"}));
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
 }
