@@ -131,15 +131,6 @@ TEST(ResourceLists, EachListIsThePrintersDataOfItsCommand) {
     EXPECT_EQ((*feeders)[0].array()->back(), PlistValue("Number"));
 }
 
-TEST(ResourceLists, ProfileListsOfAnUnknownKindSendNothing) {
-    ManagerScope scope(productBundlePath(), false);
-    RecordingPDEObject recorder;
-    scope.manager().setPDEObject(&recorder);
-    EXPECT_EQ(scope.manager().getOutputProfileFileList(2), std::nullopt);
-    EXPECT_EQ(scope.manager().getCMYKInputProfileFileList(-1), std::nullopt);
-    EXPECT_TRUE(recorder.sent.empty());
-}
-
 TEST(ResourceLists, PrimingAsksForEveryListButSpecialTonerAndLinkedSets) {
     ManagerScope scope(productBundlePath(), false);
     RecordingPDEObject recorder;
@@ -156,12 +147,17 @@ TEST(ResourceLists, PrimingAsksForEveryListButSpecialTonerAndLinkedSets) {
                   "StackerInfoList"}));
 }
 
-TEST(ResourceLists, WithoutAnAnswerEveryListIsNothing) {
+TEST(ResourceLists, WithoutAnAnswerOrOfAnUnknownKindEveryListIsNothing) {
     ManagerScope scope(productBundlePath(), false);
     EXPECT_EQ(scope.manager().getDeviceList(), std::nullopt);
     RecordingPDEObject recorder;
     scope.manager().setPDEObject(&recorder);
     EXPECT_EQ(scope.manager().getFontList(), std::nullopt);  // the object failed
+    // Profile lists of an unknown kind send nothing.
+    recorder.sent.clear();
+    EXPECT_EQ(scope.manager().getOutputProfileFileList(2), std::nullopt);
+    EXPECT_EQ(scope.manager().getCMYKInputProfileFileList(-1), std::nullopt);
+    EXPECT_TRUE(recorder.sent.empty());
     PrinterDataPDEObject noPpd(nullptr);
     scope.manager().setPDEObject(&noPpd);
     EXPECT_EQ(scope.manager().getStackerInfoList(), std::nullopt);

@@ -63,7 +63,7 @@ TEST(IOTOptionUpdater, OutputTraysFollowTheStackersReported) {
                                  PlistArray{"自動選択", "Auto"}}));
 }
 
-TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodes) {
+TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodesShowTheirOwnTexts) {
     PlistDictionary codes;
     IOTOptionUpdater::getInputSlotDict(codes, true, false);
     EXPECT_EQ(codes.stringFor("0", ""), "AutoSelect");
@@ -81,11 +81,7 @@ TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodes) {
     IOTOptionUpdater::getInputSlotArray(trays, feeders, {"0"}, {}, true);
     EXPECT_EQ((*trays.front().array())[1].stringOr(""), "TrayAuto");
     EXPECT_EQ((*trays.back().array())[1].stringOr(""), "TrayInterposer");
-}
-
-TEST(IOTOptionUpdater, InputSlotPopupShowsItsOwnTrayTexts) {
     auto slot = buildControl("QVInputSlot");
-    PlistArray trays;
     IOTOptionUpdater::getInputSlotArray(trays, PlistArray{PlistArray{"2", "Number"}, PlistArray{"4", "Number"}}, {"0"},
                                         {"25"}, true, false);
     IOTOptionUpdater::updateInputSlotVORNUI(*slot, trays);
