@@ -67,27 +67,22 @@ TEST(ConsistencyCheck, OneAlertListsSeveralFailuresInCheckOrder) {
 }
 
 TEST(ConsistencyCheck, TriggersHoldOnlyForTheirExactValues) {
-    const PlistDictionary job = realisticJob();
-    EXPECT_EQ(failures(with(job, {{"AuthJobUserId", ""}})), Keys{});  // a login needs no id
-    EXPECT_EQ(failures(with(job, {{"AuthJobUserId", ""}, {"AuthJobUserIdType", ""}})), Keys{"Alert_AuthJobUserId"});
-    EXPECT_EQ(failures(with(job, {{"AuthJobUserId", ""}, {"AuthJobUserIdType", "ID"}})), Keys{"Alert_AuthJobUserId"});
-    EXPECT_EQ(failures(with(job, {{"RecordDiv", "Off"}, {"RecordSpec", "True"}, {"RecordSpecNumber", ""}})), Keys{});
-    EXPECT_EQ(failures(with(job, {{"RecordDiv", "Page"}, {"RecordSpec", "True"}, {"RecordSpecNumber", ""}})),
-              Keys{"Alert_RecordSpecNumber"});
-    EXPECT_EQ(failures(with(job, {{"RenderingProfile", "True"},
-                                  {"RenderingProfileType", "PrinterStandard"},
-                                  {"RenderingProfileName", ""}})),
-              Keys{});
-    EXPECT_EQ(failures(with(job, {{"RenderingProfile", "True"}, {"RenderingProfileType", ""}, {"RenderingProfileName", ""}})),
-              Keys{});
-    EXPECT_EQ(failures(with(job, {{"RenderingProfile", "False"}, {"RenderingProfileType", ""}, {"RenderingProfileName", ""}})),
-              Keys{"Alert_RenderingProfileName"});
-    EXPECT_EQ(failures(with(job, {{"MailNotifyJobEnd", "true"}, {"MailAddress", ""}})), Keys{});
-    EXPECT_EQ(failures(with(job, {{"CmykColorCorrection", "True"},
-                                  {"CmykColorCorrectionProfileType", "DeviceLink"},
-                                  {"CmykDeviceLinkProfile", ""},
-                                  {"CmykImageProfileName", ""}})),
-              Keys{"Alert_CmykDeviceLinkProfile"});
+    const std::pair<PlistDictionary, Keys> cases[] = {
+        {{{"AuthJobUserId", ""}}, {}},  // a login needs no id
+        {{{"AuthJobUserId", ""}, {"AuthJobUserIdType", ""}}, {"Alert_AuthJobUserId"}},
+        {{{"AuthJobUserId", ""}, {"AuthJobUserIdType", "ID"}}, {"Alert_AuthJobUserId"}},
+        {{{"RecordDiv", "Off"}, {"RecordSpec", "True"}, {"RecordSpecNumber", ""}}, {}},
+        {{{"RecordDiv", "Page"}, {"RecordSpec", "True"}, {"RecordSpecNumber", ""}}, {"Alert_RecordSpecNumber"}},
+        {{{"RenderingProfile", "True"}, {"RenderingProfileType", "PrinterStandard"}, {"RenderingProfileName", ""}}, {}},
+        {{{"RenderingProfile", "True"}, {"RenderingProfileType", ""}, {"RenderingProfileName", ""}}, {}},
+        {{{"RenderingProfile", "False"}, {"RenderingProfileType", ""}, {"RenderingProfileName", ""}},
+         {"Alert_RenderingProfileName"}},
+        {{{"MailNotifyJobEnd", "true"}, {"MailAddress", ""}}, {}},
+        {{{"CmykColorCorrection", "True"}, {"CmykColorCorrectionProfileType", "DeviceLink"},
+          {"CmykDeviceLinkProfile", ""}, {"CmykImageProfileName", ""}},
+         {"Alert_CmykDeviceLinkProfile"}},
+    };
+    for (const auto& [changes, expected] : cases) EXPECT_EQ(failures(with(realisticJob(), changes)), expected);
 }
 
 TEST(ConsistencyCheck, ValuesAreReadAsTheSettingsHoldThem) {

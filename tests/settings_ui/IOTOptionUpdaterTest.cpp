@@ -51,8 +51,6 @@ TEST(IOTOptionUpdater, DeviceListRowsBecomeADeviceDictionary) {
     EXPECT_TRUE(IOTOptionUpdater::hasStapleForTCBMWithDevice(device));
     EXPECT_FALSE(IOTOptionUpdater::isFoldForTCBM(device));
     EXPECT_TRUE(IOTOptionUpdater::convertArrayToDict(PlistValue("text")).empty());
-    EXPECT_TRUE(IOTOptionUpdater::isDocumentfinishing("Documentfinishing"));
-    EXPECT_FALSE(IOTOptionUpdater::isDocumentfinishing("Toptray"));
 }
 
 TEST(IOTOptionUpdater, OutputTraysFollowTheStackersReported) {

@@ -41,7 +41,6 @@ TEST(NotifyUnit, PostsReachObserversOfTheNameAndSenderWithTheirUserInformation) 
     EXPECT_EQ(received[1].userInfo->stringFor("Paramater", ""), "Toptray");
     EXPECT_EQ(received[2].userInfo->stringFor("isCollectiveChange", ""), "True");
     EXPECT_EQ(ofSender.heard.size(), 1u);
-    EXPECT_EQ(NotifyUnit::keyNameWithName("Punch_PunchHoles"), "Punch_PunchHoles");
 }
 
 TEST(NotifyUnit, RemovesOneNameOrEveryName) {

@@ -55,14 +55,19 @@ public:
 
     void checkControl(const std::string& keyword, const PlistDictionary& description) {
         _owner = keyword;
-        checkPatterns(description, "conflict", [this](const std::string&, const PlistValue& entry) { conflictLevel(entry, false); });
-        checkPatterns(description, "unrestorable_conflict",
-                      [this](const std::string&, const PlistValue& entry) { conflictLevel(entry, true); });
-        checkPatterns(description, "condition", [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, true); });
-        checkPatterns(description, "logical_sum_condition",
-                      [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, false); });
-        checkPatterns(description, "hide", [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, false); });
-        checkPatterns(description, "cooperation", [this](const std::string&, const PlistValue& entry) { cooperationEntry(entry); });
+        for (const std::string rule : {"conflict", "unrestorable_conflict", "condition", "logical_sum_condition", "hide",
+                                       "cooperation"}) {
+            const PlistValue* rules = description.find(rule);
+            if (rules && !rules->dictionary()) fault(rule + " is not a dictionary");
+            if (!rules || !rules->dictionary()) continue;
+            for (const auto& [pattern, entry] : *rules->dictionary()) {
+                if (pattern == "title" || pattern == "message") continue;
+                if (!isThreshold(pattern)) requireChoice(keyword, pattern);
+                if (rule == "cooperation") cooperationEntry(entry);
+                else if (rule.find("conflict") != std::string::npos) conflictLevel(entry, rule == "unrestorable_conflict");
+                else enablingEntry(entry, rule == "condition");
+            }
+        }
         for (const char* list : {"other_controls", "other_controls_ww"})
             if (const PlistValue* children = description.find(list))
                 for (const PlistValue& child : *children->array()) requireKeyword(child.stringOr(""));
@@ -71,18 +76,6 @@ public:
     }
 
 private:
-    template <class Visit>
-    void checkPatterns(const PlistDictionary& description, const char* rule, Visit visit) {
-        const PlistValue* rules = description.find(rule);
-        if (!rules) return;
-        if (!rules->dictionary()) return fault(std::string(rule) + " is not a dictionary");
-        for (const auto& [pattern, entry] : *rules->dictionary()) {
-            if (pattern == "title" || pattern == "message") continue;
-            if (!isThreshold(pattern)) requireChoice(_owner, pattern);
-            visit(pattern, entry);
-        }
-    }
-
     void conflictLevel(const PlistValue& level, bool unresolvable) {
         if (!level.dictionary()) return fault("conflict level is not a dictionary");
         for (const auto& [other, patterns] : *level.dictionary()) {
