@@ -125,10 +125,6 @@ TEST(ResourceLists, EachListIsThePrintersDataOfItsCommand) {
         ASSERT_TRUE(list) << command;
         EXPECT_EQ(*list, sourceList(command)) << command;
     }
-    const auto feederList = scope.manager().getFeederInfoList();
-    const PlistArray* feeders = feederList ? feederList->array() : nullptr;
-    ASSERT_TRUE(feeders && !feeders->empty() && (*feeders)[0].array());
-    EXPECT_EQ((*feeders)[0].array()->back(), PlistValue("Number"));
 }
 
 TEST(ResourceLists, PrimingAsksForEveryListButSpecialTonerAndLinkedSets) {

@@ -43,17 +43,11 @@ void useProductCatalogues() {
 
 }  // namespace
 
-TEST(NumberInput, EnglishTakesThePointAndGermanTheComma) {
-    {
-        Language english("en");
-        auto field = creaseField();
-        EXPECT_TRUE(field->shouldAcceptText("1.5"));
-        EXPECT_FALSE(field->shouldAcceptText("1,5"));
-    }
+// The separator of each language is the number widget's test; here the German comma
+// counts towards the digits, and a secure field keeps the point whatever the language.
+TEST(NumberInput, GermanCommaCountsTowardsTheDigitsAndSecureFieldsKeepThePoint) {
     Language german("de");
     auto field = creaseField();
-    EXPECT_TRUE(field->shouldAcceptText("1,5"));
-    EXPECT_FALSE(field->shouldAcceptText("1.5"));
     EXPECT_TRUE(type(*field, "10,25"));
     EXPECT_FALSE(field->shouldAcceptText("10,255"));
     VORNSecureTextField secure;
