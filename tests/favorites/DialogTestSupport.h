@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -23,8 +22,6 @@ protected:
     void SetUp() override {
         using namespace ComQuorvantVelmar_Plugin;
         useProductStrings("en");
-        ::setenv("XDG_CONFIG_HOME", _home.file("config").c_str(), 1);
-        ::setenv("XDG_DATA_HOME", _home.file("data").c_str(), 1);
         Alerts::setPresenter(alerts);
         FileChoosers::setPresenter(files);
         ModalWindows::setRunner(runner);
@@ -34,8 +31,6 @@ protected:
         Alerts::setPresenter(nullptr);
         FileChoosers::setPresenter(nullptr);
         ModalWindows::setRunner(nullptr);
-        ::unsetenv("XDG_CONFIG_HOME");
-        ::unsetenv("XDG_DATA_HOME");
     }
 
     /// The product's favorites folder below the private configuration folder.
@@ -54,6 +49,8 @@ protected:
 
 private:
     TemporaryDirectory _home;
+    EnvironmentOverride _configHome{"XDG_CONFIG_HOME", _home.file("config")};
+    EnvironmentOverride _dataHome{"XDG_DATA_HOME", _home.file("data")};
 };
 
 }  // namespace OstrinTest

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <regex>
 
@@ -13,13 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Points the user's data folder at a private folder for one test.
-class PrivateDataHome {
-public:
-    explicit PrivateDataHome(const std::string& path) { ::setenv("XDG_DATA_HOME", path.c_str(), 1); }
-    ~PrivateDataHome() { ::unsetenv("XDG_DATA_HOME"); }
-};
-
 std::string recordOf(const std::string& trash, const std::string& name) {
     return OstrinTest::readFile(trash + "/info/" + name + ".trashinfo");
 }
@@ -29,9 +21,9 @@ const std::regex recordPattern(
 
 }  // namespace
 
-TEST(Trash, MovesTheFileAndWritesItsRecord) {
+TEST(Trash, MovesTheFileAndWritesItsRecordButNoRecordForAMissingFile) {
     OstrinTest::TemporaryDirectory home;
-    PrivateDataHome dataHome(home.file("data"));
+    OstrinTest::EnvironmentOverride dataHome("XDG_DATA_HOME", home.file("data"));
     fs::create_directory(home.file("favorite"));
     const std::string path = home.file("favorite/Proofs 100% ü.pqz");
     OstrinTest::writeFile(path, "favorite bytes");
@@ -45,18 +37,20 @@ TEST(Trash, MovesTheFileAndWritesItsRecord) {
     const std::string record = recordOf(trash, "Proofs 100% ü.pqz");
     ASSERT_TRUE(std::regex_match(record, match, recordPattern)) << record;
     EXPECT_EQ(match[1].str(), home.path() + "/favorite/Proofs%20100%25%20%C3%BC.pqz");
+    EXPECT_FALSE(Trash::moveToTrash(home.file("missing.pqz")));
+    EXPECT_FALSE(Trash::moveToTrash(""));
+    EXPECT_FALSE(fs::exists(trash + "/info/missing.pqz.trashinfo"));
 }
 
 TEST(Trash, CopiesAcrossFileSystemsAndRemovesTheOriginal) {
-    // /dev/shm is a memory file system apart from the temporary folder, so the move cannot
-    // be a rename there.
+    // /dev/shm is a memory file system apart from the temporary folder: no rename there.
     OstrinTest::TemporaryDirectory home;
     const std::string dataFolder = "/dev/shm/ostrin-trash-test-" + std::to_string(::getpid());
     struct RemoveAtEnd {
         std::string path;
         ~RemoveAtEnd() { fs::remove_all(path); }
     } cleanUp{dataFolder};
-    PrivateDataHome dataHome(dataFolder);
+    OstrinTest::EnvironmentOverride dataHome("XDG_DATA_HOME", dataFolder);
     const std::string path = home.file("Proofs.pqz");
     OstrinTest::writeFile(path, "favorite bytes");
     ::chmod(path.c_str(), 0640);
@@ -69,19 +63,11 @@ TEST(Trash, CopiesAcrossFileSystemsAndRemovesTheOriginal) {
     EXPECT_TRUE(fs::exists(dataFolder + "/Trash/info/Proofs.pqz.trashinfo"));
 }
 
-TEST(Trash, MissingFileIsNotRecorded) {
-    OstrinTest::TemporaryDirectory home;
-    PrivateDataHome dataHome(home.file("data"));
-    EXPECT_FALSE(Trash::moveToTrash(home.file("missing.pqz")));
-    EXPECT_FALSE(Trash::moveToTrash(""));
-    EXPECT_FALSE(fs::exists(home.file("data/Trash/info/missing.pqz.trashinfo")));
-}
-
 // A name the trash holds, recorded or not (a folder nobody recorded), is never replaced:
 // the item takes the next free name and its own record.
 TEST(Trash, ANameTakenInTheTrashGivesTheItemTheNextName) {
     OstrinTest::TemporaryDirectory home;
-    PrivateDataHome dataHome(home.file("data"));
+    OstrinTest::EnvironmentOverride dataHome("XDG_DATA_HOME", home.file("data"));
     const std::string trash = home.file("data/Trash");
     fs::create_directories(trash + "/files/Booklet.pqz");
     for (const char* folder : {"a", "b"}) {

@@ -85,7 +85,7 @@ TEST(PaneLoading, PanelsOfTheBuiltInPaneAreLaidOutOnFirstRequest) {
     EXPECT_EQ(scope.manager().panelViewOfBundleName("Nothing"), nullptr);
 }
 
-TEST(PaneLoading, RolesComeFromNodesAndDependenciesButNotFromTheMainKeyword) {
+TEST(PaneLoading, RolesFollowThePlusSignOfNodesAndDependenciesButNotOfTheMainKeyword) {
     const PlistDictionary tree = {
         {"bundleName", "Finishing+Front"},
         {"dependency", PlistDictionary{{"mainKeyword", PlistDictionary{{"bundleName", "Main+Key"}}},
@@ -100,9 +100,6 @@ TEST(PaneLoading, RolesComeFromNodesAndDependenciesButNotFromTheMainKeyword) {
     const PanePlugInMgr::RoleTable expected = {
         {"Finishing", {"Front", "Back"}}, {"Punch", {"Left"}}, {"Deep", {"Inner"}}};
     EXPECT_EQ(roles, expected);
-}
-
-TEST(PaneLoading, NamesSplitAtThePlusSign) {
     using Split = std::pair<std::string, std::optional<std::string>>;
     EXPECT_EQ(PanePlugInMgr::_separateBundleName("Finishing+Back"), Split("Finishing", "Back"));
     EXPECT_EQ(PanePlugInMgr::_separateBundleName("Finishing"), Split("Finishing", std::nullopt));

@@ -3,7 +3,7 @@
 #include "SettingsTestSupport.h"
 #include "settings_ui/IOTOptionUpdater.h"
 
-using namespace ComQuorvantVelmar_Plugin;
+using namespace SettingsTest;
 
 namespace {
 
@@ -26,18 +26,18 @@ TEST(IOTOptionUpdater, OnlyTheExactTextTrueCountsAsInstalled) {
 }
 
 TEST(IOTOptionUpdater, PunchKeepsTheChoicesOfItsDevicesOrIsHidden) {
-    auto punch = SettingsTest::buildControl("Punch_PunchHoles");
+    auto punch = buildControl("Punch_PunchHoles");
     EXPECT_TRUE(updateWithPunch(*punch, PlistDictionary{{"quadPunch", "true"}, {"doublePunch", "false"}}));
     EXPECT_FALSE(punch->isHidden());
-    EXPECT_EQ(SettingsTest::popupChoices(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
+    EXPECT_EQ(popupChoices(*punch), (std::vector<std::string>{"None", "LeftHoles4", "TopHoles4", "MixSizeHoles4"}));
     punch->selectItemAtIndex(2);
     EXPECT_EQ(punch->getStringValue(), "TopHoles4");
-    auto hidden = SettingsTest::buildControl("Punch_PunchHoles");
+    auto hidden = buildControl("Punch_PunchHoles");
     EXPECT_FALSE(updateWithPunch(*hidden, PlistDictionary{{"quadPunch", "True"}, {"offset", "true"}}));
     EXPECT_TRUE(hidden->isHidden());
-    EXPECT_EQ(SettingsTest::popupChoices(*hidden).size(), 8u);
+    EXPECT_EQ(popupChoices(*hidden).size(), 8u);
     IOTOptionUpdater::Groups devices, options;
-    auto staple = SettingsTest::buildControl("StapleMode");
+    auto staple = buildControl("StapleMode");
     EXPECT_FALSE(IOTOptionUpdater::updatePopupButtonComponent(staple.get(), nullptr, &devices, &options));
     EXPECT_TRUE(staple->isHidden());
     EXPECT_FALSE(IOTOptionUpdater::updatePopupButtonComponent(nullptr, nullptr, nullptr, nullptr));
@@ -51,8 +51,6 @@ TEST(IOTOptionUpdater, DeviceListRowsBecomeADeviceDictionary) {
     EXPECT_TRUE(IOTOptionUpdater::hasStapleForTCBMWithDevice(device));
     EXPECT_FALSE(IOTOptionUpdater::isFoldForTCBM(device));
     EXPECT_TRUE(IOTOptionUpdater::convertArrayToDict(PlistValue("text")).empty());
-    EXPECT_TRUE(IOTOptionUpdater::isDocumentfinishing("Documentfinishing"));
-    EXPECT_FALSE(IOTOptionUpdater::isDocumentfinishing("Toptray"));
 }
 
 TEST(IOTOptionUpdater, OutputTraysFollowTheStackersReported) {
@@ -63,7 +61,7 @@ TEST(IOTOptionUpdater, OutputTraysFollowTheStackersReported) {
                                  PlistArray{"自動選択", "Auto"}}));
 }
 
-TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodes) {
+TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodesShowTheirOwnTexts) {
     PlistDictionary codes;
     IOTOptionUpdater::getInputSlotDict(codes, true, false);
     EXPECT_EQ(codes.stringFor("0", ""), "AutoSelect");
@@ -81,11 +79,7 @@ TEST(IOTOptionUpdater, InputTraysFramedByPrefixAndSuffixCodes) {
     IOTOptionUpdater::getInputSlotArray(trays, feeders, {"0"}, {}, true);
     EXPECT_EQ((*trays.front().array())[1].stringOr(""), "TrayAuto");
     EXPECT_EQ((*trays.back().array())[1].stringOr(""), "TrayInterposer");
-}
-
-TEST(IOTOptionUpdater, InputSlotPopupShowsItsOwnTrayTexts) {
-    auto slot = SettingsTest::buildControl("QVInputSlot");
-    PlistArray trays;
+    auto slot = buildControl("QVInputSlot");
     IOTOptionUpdater::getInputSlotArray(trays, PlistArray{PlistArray{"2", "Number"}, PlistArray{"4", "Number"}}, {"0"},
                                         {"25"}, true, false);
     IOTOptionUpdater::updateInputSlotVORNUI(*slot, trays);

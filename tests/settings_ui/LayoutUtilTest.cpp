@@ -41,14 +41,10 @@ using Names = std::vector<std::string>;
 
 }  // namespace
 
-TEST(LayoutUtil, VisibleViewsAreOrderedByTheirBottomEdge) {
+TEST(LayoutUtil, VisibleViewsAreOrderedByTheirBottomEdgeAndChosenBelowTheirTargets) {
     Pane pane;
     EXPECT_EQ(pane.names(LayoutUtil::visibleSubViews(pane.root.get())), (Names{"title", "middle", "last", "note"}));
     EXPECT_TRUE(LayoutUtil::visibleSubViews(nullptr).empty());
-}
-
-TEST(LayoutUtil, SouthAndRangeViewsLieBelowTheirTargets) {
-    Pane pane;
     const ViewNode* title = pane.views["title"].get();
     EXPECT_EQ(pane.names(LayoutUtil::visibleSouthViews(pane.root.get(), title)), (Names{"middle", "last", "note"}));
     EXPECT_EQ(pane.names(LayoutUtil::visibleRangeViews(pane.root.get(), title, pane.views["last"].get())),

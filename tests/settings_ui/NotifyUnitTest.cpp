@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestSupport.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
+using namespace SettingsTest;
 
 namespace {
 
@@ -42,7 +41,6 @@ TEST(NotifyUnit, PostsReachObserversOfTheNameAndSenderWithTheirUserInformation) 
     EXPECT_EQ(received[1].userInfo->stringFor("Paramater", ""), "Toptray");
     EXPECT_EQ(received[2].userInfo->stringFor("isCollectiveChange", ""), "True");
     EXPECT_EQ(ofSender.heard.size(), 1u);
-    EXPECT_EQ(NotifyUnit::keyNameWithName("Punch_PunchHoles"), "Punch_PunchHoles");
 }
 
 TEST(NotifyUnit, RemovesOneNameOrEveryName) {

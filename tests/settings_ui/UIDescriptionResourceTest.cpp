@@ -4,21 +4,15 @@
 #include <set>
 
 #include "SettingsTestSupport.h"
-#include "TestSupport.h"
-#include "core/Bundle.h"
-#include "core/PlistIO.h"
 #include "ppd/PpdData.h"
 #include "ppd/PpdFile.h"
 #include "settings_ui/IOTOptionUpdater.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::AlertScript;
-using SettingsTest::Language;
+using namespace SettingsTest;
 
 namespace {
 
-std::shared_ptr<Bundle> productBundle() { return Bundle::bundleWithPath(SettingsTest::productBundlePath()); }
+std::shared_ptr<Bundle> productBundle() { return Bundle::bundleWithPath(productBundlePath()); }
 
 const PlistDictionary& productDescriptions() {
     static const PlistDictionary descriptions = [] {
@@ -61,14 +55,19 @@ public:
 
     void checkControl(const std::string& keyword, const PlistDictionary& description) {
         _owner = keyword;
-        checkPatterns(description, "conflict", [this](const std::string&, const PlistValue& entry) { conflictLevel(entry, false); });
-        checkPatterns(description, "unrestorable_conflict",
-                      [this](const std::string&, const PlistValue& entry) { conflictLevel(entry, true); });
-        checkPatterns(description, "condition", [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, true); });
-        checkPatterns(description, "logical_sum_condition",
-                      [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, false); });
-        checkPatterns(description, "hide", [this](const std::string&, const PlistValue& entry) { enablingEntry(entry, false); });
-        checkPatterns(description, "cooperation", [this](const std::string&, const PlistValue& entry) { cooperationEntry(entry); });
+        for (const std::string rule : {"conflict", "unrestorable_conflict", "condition", "logical_sum_condition", "hide",
+                                       "cooperation"}) {
+            const PlistValue* rules = description.find(rule);
+            if (rules && !rules->dictionary()) fault(rule + " is not a dictionary");
+            if (!rules || !rules->dictionary()) continue;
+            for (const auto& [pattern, entry] : *rules->dictionary()) {
+                if (pattern == "title" || pattern == "message") continue;
+                if (!isThreshold(pattern)) requireChoice(keyword, pattern);
+                if (rule == "cooperation") cooperationEntry(entry);
+                else if (rule.find("conflict") != std::string::npos) conflictLevel(entry, rule == "unrestorable_conflict");
+                else enablingEntry(entry, rule == "condition");
+            }
+        }
         for (const char* list : {"other_controls", "other_controls_ww"})
             if (const PlistValue* children = description.find(list))
                 for (const PlistValue& child : *children->array()) requireKeyword(child.stringOr(""));
@@ -77,18 +76,6 @@ public:
     }
 
 private:
-    template <class Visit>
-    void checkPatterns(const PlistDictionary& description, const char* rule, Visit visit) {
-        const PlistValue* rules = description.find(rule);
-        if (!rules) return;
-        if (!rules->dictionary()) return fault(std::string(rule) + " is not a dictionary");
-        for (const auto& [pattern, entry] : *rules->dictionary()) {
-            if (pattern == "title" || pattern == "message") continue;
-            if (!isThreshold(pattern)) requireChoice(_owner, pattern);
-            visit(pattern, entry);
-        }
-    }
-
     void conflictLevel(const PlistValue& level, bool unresolvable) {
         if (!level.dictionary()) return fault("conflict level is not a dictionary");
         for (const auto& [other, patterns] : *level.dictionary()) {
@@ -150,36 +137,21 @@ private:
     std::string _owner;
 };
 
-// msgid entries of a catalogue source, with continuation lines joined.
+// The msgid entries of a catalogue source (every key is on one line), still escaped.
 std::set<std::string> catalogueKeys(const std::string& language) {
     std::ifstream stream(std::string(OSTRIN_TEST_DATA_DIR) + "/../../resources/po/UI/" + language + ".po");
     std::set<std::string> keys;
-    std::string line, current;
-    bool inKey = false;
-    const auto unquote = [](const std::string& quoted) {
-        std::string text;
-        for (std::size_t index = 1; index + 1 < quoted.size(); ++index) {
-            if (quoted[index] == '\\' && index + 2 < quoted.size()) {
-                const char escaped = quoted[++index];
-                text += escaped == 'r' ? '\r' : escaped == 'n' ? '\n' : escaped == 't' ? '\t' : escaped;
-            } else {
-                text += quoted[index];
-            }
-        }
-        return text;
-    };
-    while (std::getline(stream, line)) {
-        if (line.rfind("msgid ", 0) == 0) {
-            current = unquote(line.substr(6));
-            inKey = true;
-        } else if (inKey && !line.empty() && line[0] == '"') {
-            current += unquote(line);
-        } else if (inKey) {
-            if (!current.empty()) keys.insert(current);
-            inKey = false;
-        }
-    }
+    for (std::string line; std::getline(stream, line);)
+        if (line.rfind("msgid \"", 0) == 0 && line.size() > 8) keys.insert(line.substr(7, line.size() - 8));
     return keys;
+}
+
+// text as a catalogue source writes it between quotes.
+std::string poEscaped(const std::string& text) {
+    std::string escaped;
+    for (char c : text)
+        escaped += c == '\r' ? "\\r" : c == '\n' ? "\\n" : c == '\t' ? "\\t" : c == '"' ? "\\\"" : c == '\\' ? "\\\\" : std::string(1, c);
+    return escaped;
 }
 
 void collectTexts(const PlistDictionary& description, std::set<std::string>& texts) {
@@ -237,7 +209,7 @@ TEST(ProductDescription, EveryTextHasEnglishGermanAndJapanese) {
         const std::set<std::string> keys = catalogueKeys(language);
         std::vector<std::string> missing;
         for (const std::string& text : texts)
-            if (!keys.count(text)) missing.push_back(text);
+            if (!keys.count(poEscaped(text))) missing.push_back(text);
         EXPECT_TRUE(missing.empty()) << language << " lacks " << missing.size() << ", first: " << missing.front();
     }
 }
@@ -245,7 +217,7 @@ TEST(ProductDescription, EveryTextHasEnglishGermanAndJapanese) {
 TEST(ProductDescription, DefaultsAreConsistentAndAskNothing) {
     AlertScript alerts;
     auto manager = std::make_unique<VORNMgr>();
-    manager->setPdeResourcePath(SettingsTest::productBundlePath() + "/Contents/Resources");
+    manager->setPdeResourcePath(productBundlePath() + "/Contents/Resources");
     for (const auto& [keyword, value] : productDescriptions()) {
         auto control = buildProductControl(keyword);
         manager->addControl(control);
@@ -263,10 +235,10 @@ TEST(ProductDescription, DefaultsAreConsistentAndAskNothing) {
 TEST(ProductDescription, FinishingMovesOutputToTheFinisher) {
     Language english("en");
     AlertScript alerts({AlertFirstButtonReturn, AlertFirstButtonReturn});
-    auto manager = SettingsTest::managerWith({});
+    auto manager = managerWith({});
     for (const char* keyword : {"StapleMode", "OutputTray", "PaperTypeD", "Fold", "Punch_PunchHoles", "DuplexMode", "OffsetMode"}) {
         auto control = buildProductControl(keyword);
-        SettingsTest::registerLikeAPane(*manager, control);
+        registerLikeAPane(*manager, control);
     }
     manager->setStringValue("OutputTray", "Toptray");
     NotifyUnit::postNotificationName("OutputTray");
@@ -287,7 +259,7 @@ TEST(ProductDescription, FinishingMovesOutputToTheFinisher) {
 namespace {
 
 std::unique_ptr<PpdFile> samplePpd() {
-    return PpdFile::initWithContentsOfFile(SettingsTest::productBundlePath() + "/Contents/Resources/OstrinFlow.ppd");
+    return PpdFile::initWithContentsOfFile(productBundlePath() + "/Contents/Resources/OstrinFlow.ppd");
 }
 
 }  // namespace

@@ -1,14 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsTestSupport.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::AlertScript;
-using SettingsTest::choose;
-using SettingsTest::Language;
-using SettingsTest::NetworkData;
-using SettingsTest::NotificationRecorder;
+using namespace SettingsTest;
 
 namespace {
 
@@ -34,7 +28,7 @@ TEST(ConflictPattern, ComparesThresholdsAndLiterals) {
 }
 
 TEST(ConflictSearch, MergesNestedRestoreLists) {
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("OutputTray", "Toptray");
     manager->setStringValue("PaperTypeD", "Transparency");
     auto info = manager->conflictInfo("StapleMode", "Saddle");
@@ -51,7 +45,7 @@ TEST(ConflictSearch, MergesNestedRestoreLists) {
 }
 
 TEST(ConflictSearch, RestoreNamingAKeywordTwiceKeepsTheFirstValue) {
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("OutputTray", "Toptray");
     manager->setStringValue("DuplexMode", "DuplexTumble");
     const PlistDictionary rules{
@@ -70,7 +64,7 @@ TEST(ConflictSearch, RestoreNamingAKeywordTwiceKeepsTheFirstValue) {
 
 TEST(BeforeChange, AsksAndAppliesEveryRestoreValue) {
     Language english("en");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("OutputTray", "Toptray");
     manager->setStringValue("PaperTypeD", "Transparency");
     NotificationRecorder recorder({"DuplexMode", "OutputTray", "PaperTypeD", "StapleMode"});
@@ -90,7 +84,7 @@ TEST(BeforeChange, AsksAndAppliesEveryRestoreValue) {
 
 TEST(BeforeChange, DeclinedChangesNothingAndNamesTheCaller) {
     Language german("de");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("PaperTypeD", "Transparency");
     NotificationRecorder recorder({"DuplexMode", "PaperTypeD"});
     AlertScript alerts({AlertSecondButtonReturn});
@@ -108,7 +102,7 @@ TEST(BeforeChange, DeclinedChangesNothingAndNamesTheCaller) {
 // the change is finished.
 TEST(AfterChange, DeclinedDialogRevertsAndAcceptedDialogRestoresTheOthers) {
     Language english("en");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     choose(*manager, "PaperTypeD", "Transparency");
     NotificationRecorder recorder({"ValueChangFinished_DuplexMode", "PaperTypeD"});
     AlertScript alerts({AlertSecondButtonReturn, AlertFirstButtonReturn});
@@ -131,7 +125,7 @@ TEST(AfterChange, DeclinedDialogRevertsAndAcceptedDialogRestoresTheOthers) {
 
 TEST(AfterChange, ThresholdConflictsShowTheThreshold) {
     Language english("en");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("ImpositionMode_ImpositionCustomMode", "Booklet");
     AlertScript alerts({AlertFirstButtonReturn});
     manager->setStringValue("Magnification", "250.0");
@@ -144,7 +138,7 @@ TEST(AfterChange, ThresholdConflictsShowTheThreshold) {
 }
 
 TEST(AfterChange, UnchangedValueIsNotCheckedAndNotFinished) {
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     NotificationRecorder recorder({"ValueChangFinished_StapleMode"});
     AlertScript alerts;
     std::vector<std::string> names;
@@ -156,21 +150,20 @@ TEST(AfterChange, UnchangedValueIsNotCheckedAndNotFinished) {
     EXPECT_TRUE(alerts.asked().empty());
 }
 
-TEST(Unresolvable, NeverReportedWithoutNetworkData) {
-    auto manager = SettingsTest::managerWith(finishingKeywords);
-    choose(*manager, "StapleMode", "TopLeftCorner");
-    NetworkData offline(false);
-    AlertScript alerts;
-    choose(*manager, "OutputTray", "Documentfinishing");
-    EXPECT_TRUE(alerts.asked().empty());
-    EXPECT_EQ(manager->getStringValue("OutputTray"), "Documentfinishing");
-    EXPECT_FALSE(manager->controlsOf("OffsetMode")->front()->isEnabled());
-}
-
+// Only once the print server's lists are in is the user told, and the change reverted.
 TEST(Unresolvable, WithNetworkDataRevertsAfterTellingTheUser) {
     Language english("en");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     choose(*manager, "StapleMode", "TopLeftCorner");
+    {
+        NetworkData offline(false);
+        AlertScript alerts;
+        choose(*manager, "OutputTray", "Documentfinishing");
+        EXPECT_TRUE(alerts.asked().empty());
+        EXPECT_EQ(manager->getStringValue("OutputTray"), "Documentfinishing");
+        EXPECT_FALSE(manager->controlsOf("OffsetMode")->front()->isEnabled());
+        choose(*manager, "OutputTray", "Auto");
+    }
     NetworkData online(true);
     NotificationRecorder recorder({"ValueChangFinished_OutputTray"});
     AlertScript alerts({AlertFirstButtonReturn});
@@ -187,7 +180,7 @@ TEST(Unresolvable, WithNetworkDataRevertsAfterTellingTheUser) {
 
 TEST(Unresolvable, NestedEntryCarriesItsOwnMessage) {
     Language english("en");
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     manager->setStringValue("Fold", "Bifold");
     manager->setStringValue("PaperTypeD", "Envelope");
     NetworkData online(true);
@@ -199,7 +192,7 @@ TEST(Unresolvable, NestedEntryCarriesItsOwnMessage) {
 }
 
 TEST(SilentRestore, AppliesConflictsWithoutAskingAndWritesTheValue) {
-    auto manager = SettingsTest::managerWith(finishingKeywords);
+    auto manager = managerWith(finishingKeywords);
     AlertScript alerts;
     auto changed = manager->setStringValueWithRestoreConfliction("ImpositionMode_ImpositionCustomMode", "Booklet");
     ASSERT_TRUE(changed);

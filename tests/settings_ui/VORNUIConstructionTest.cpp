@@ -3,22 +3,18 @@
 #include <filesystem>
 
 #include "SettingsTestSupport.h"
-#include "TestSupport.h"
-#include "core/Bundle.h"
-#include "core/PlistIO.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::Language;
+using namespace SettingsTest;
 
 namespace {
 
 PlistDictionary described(const std::string& keyword) {
-    return *SettingsTest::fixtureDescriptions().find(keyword)->dictionary();
+    return *fixtureDescriptions().find(keyword)->dictionary();
 }
 
 std::shared_ptr<VORNUI> buildFrom(const PlistDictionary& description, std::shared_ptr<Bundle> bundle = nullptr) {
     auto control = std::make_shared<VORNUI>();
-    control->setControlDictionary(&description, bundle ? bundle : SettingsTest::fixtureBundle());
+    control->setControlDictionary(&description, bundle ? bundle : fixtureBundle());
     control->updateControl();
     return control;
 }
@@ -43,8 +39,8 @@ TEST(ControlHeight, RadioGroupsCountTheirChoices) {
     EXPECT_EQ(heightOf(rotation, {}, {"blank_line_count"}), 84);
     EXPECT_EQ(heightOf(rotation), 108);
     EXPECT_EQ(heightOf(rotation, {{"text", ""}}), 84);
-    EXPECT_EQ(SettingsTest::buildControl("PageOrder_new")->getControlHeight(), 104);
-    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed")->getControlHeight(), 0);
+    EXPECT_EQ(buildControl("PageOrder_new")->getControlHeight(), 104);
+    EXPECT_EQ(buildControl("QZMediaFeed")->getControlHeight(), 0);
 }
 
 TEST(ControlHeight, CheckBoxAddsAGroupTitleRowOnlyForGroupMembers) {
@@ -52,18 +48,18 @@ TEST(ControlHeight, CheckBoxAddsAGroupTitleRowOnlyForGroupMembers) {
     EXPECT_EQ(heightOf(mail), 48);
     EXPECT_EQ(heightOf(mail, {}, {"isGroupMain"}), 24);
     EXPECT_EQ(heightOf(mail, {{"isGroupMain", true}}), 24);
-    EXPECT_EQ(SettingsTest::buildControl("GroupFinishing")->lineCount(), 2u);
-    EXPECT_EQ(SettingsTest::buildControl("GroupFinishing")->getControlHeight(), 48);
+    EXPECT_EQ(buildControl("GroupFinishing")->lineCount(), 2u);
+    EXPECT_EQ(buildControl("GroupFinishing")->getControlHeight(), 48);
 }
 
 TEST(ControlHeight, FieldsPopupsSlidersAndDatePickers) {
-    EXPECT_EQ(SettingsTest::buildControl("SecPrintPassword")->getControlHeight(), 72);
-    EXPECT_EQ(SettingsTest::buildControl("NumCopies")->getControlHeight(), 24);
-    EXPECT_EQ(SettingsTest::buildControl("HairLineWarningPoint")->getControlHeight(), 96);
-    EXPECT_EQ(SettingsTest::buildControl("StapleMode")->getControlHeight(), 48);
-    EXPECT_EQ(SettingsTest::buildControl("TrimRatio")->getControlHeight(), 24);
-    EXPECT_EQ(SettingsTest::buildControl("HoldUntil")->getControlHeight(), 179);
-    EXPECT_EQ(SettingsTest::buildControl("PrintAt")->getControlHeight(), 203);
+    EXPECT_EQ(buildControl("SecPrintPassword")->getControlHeight(), 72);
+    EXPECT_EQ(buildControl("NumCopies")->getControlHeight(), 24);
+    EXPECT_EQ(buildControl("HairLineWarningPoint")->getControlHeight(), 96);
+    EXPECT_EQ(buildControl("StapleMode")->getControlHeight(), 48);
+    EXPECT_EQ(buildControl("TrimRatio")->getControlHeight(), 24);
+    EXPECT_EQ(buildControl("HoldUntil")->getControlHeight(), 179);
+    EXPECT_EQ(buildControl("PrintAt")->getControlHeight(), 203);
     EXPECT_EQ(heightOf(described("PrintAt"), {}, {"text"}), 203);
     EXPECT_EQ(heightOf(described("StapleMode"), {{"control_type", "Stepper"}, {"blank_line_count", "3"}}), 0);
 }
@@ -77,13 +73,13 @@ TEST(FieldConstruction, UnitStepAndLengthComeFromTheDescription) {
         {"NumCopies", VORNTextField::UnitInteger, 1},
         {"HairLineWarningPoint", VORNTextField::UnitThousandths, 0.001}};
     for (const auto& [keyword, unit, increment] : numbers) {
-        const auto control = SettingsTest::buildControl(keyword);
+        const auto control = buildControl(keyword);
         ASSERT_TRUE(control->stepper()) << keyword;
         EXPECT_DOUBLE_EQ(control->stepper()->increment, increment) << keyword;
         EXPECT_EQ(control->textField()->unit(), unit) << keyword;
         EXPECT_TRUE(control->textField()->isNum()) << keyword;
     }
-    const auto crease = SettingsTest::buildControl("CreasePosition1");
+    const auto crease = buildControl("CreasePosition1");
     EXPECT_DOUBLE_EQ(crease->textField()->minValue(), 0.5);
     EXPECT_DOUBLE_EQ(crease->stepper()->maxValue, 10.25);
     PlistDictionary tenths = described("CreasePosition1");
@@ -96,26 +92,26 @@ TEST(FieldConstruction, UnitStepAndLengthComeFromTheDescription) {
                                                            {"SecPrintPassword", VORNTextField::UnitAscii},
                                                            {"PaperColorCustomName", VORNTextField::UnitText}};
     for (const auto& [keyword, unit] : texts) {
-        const auto control = SettingsTest::buildControl(keyword);
+        const auto control = buildControl(keyword);
         EXPECT_EQ(control->textField()->unit(), unit) << keyword;
         EXPECT_EQ(control->textField()->keyword(), keyword);
     }
-    EXPECT_EQ(SettingsTest::buildControl("MailAddress")->textField()->digit(), 40u);
-    EXPECT_TRUE(SettingsTest::buildControl("SecPrintPassword")->textField()->isSecure());
+    EXPECT_EQ(buildControl("MailAddress")->textField()->digit(), 40u);
+    EXPECT_TRUE(buildControl("SecPrintPassword")->textField()->isSecure());
     PlistDictionary unlimited = described("PaperColorCustomName");
     unlimited.erase("max_digit");
     EXPECT_EQ(buildFrom(unlimited)->textField()->digit(), 256u);
 }
 
 TEST(Construction, TitleFollowsThePaneAndMessagesUseTheirOwnName) {
-    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed", "Layout")->texts().title, "Feed Direction");
-    EXPECT_EQ(SettingsTest::buildControl("QZMediaFeed", "Page")->texts().title, "Feed");
-    const auto density = SettingsTest::buildControl("ImageDensity");
+    EXPECT_EQ(buildControl("QZMediaFeed", "Layout")->texts().title, "Feed Direction");
+    EXPECT_EQ(buildControl("QZMediaFeed", "Page")->texts().title, "Feed");
+    const auto density = buildControl("ImageDensity");
     EXPECT_EQ(density->mainKeyword(), "ImageDensity");
     EXPECT_EQ(density->controlType(), VORNUI::Type::Slider);
-    EXPECT_EQ(SettingsTest::buildControl("NumCopies")->mainKeywordText(), "Copies");
-    EXPECT_TRUE(SettingsTest::buildControl("NumCopies")->isEnableButton());
-    const auto mail = SettingsTest::buildControl("MailNotifyJobEnd");
+    EXPECT_EQ(buildControl("NumCopies")->mainKeywordText(), "Copies");
+    EXPECT_TRUE(buildControl("NumCopies")->isEnableButton());
+    const auto mail = buildControl("MailNotifyJobEnd");
     EXPECT_EQ(mail->texts().groupTitle, "Notification");
     EXPECT_FALSE(mail->isGroupMain());
 }
@@ -124,36 +120,36 @@ TEST(Construction, TitlesAreLocalisedThroughTheUiTable) {
     Language german("de");
     const auto control = buildFrom(PlistDictionary{{"mainKeyword", "Confirm"}, {"control_type", "CheckBox"},
                                                    {"text", "Yes"}, {"text_for_message", "No"}},
-                                   Bundle::bundleWithPath(SettingsTest::productBundlePath()));
+                                   Bundle::bundleWithPath(productBundlePath()));
     EXPECT_EQ(control->texts().title, "Ja");
     EXPECT_EQ(control->mainKeywordText(), "Nein");
-    EXPECT_EQ(SettingsTest::buildControl("CreasePosition1")->texts().descText, "mm (0,5 - 10,25)");
+    EXPECT_EQ(buildControl("CreasePosition1")->texts().descText, "mm (0,5 - 10,25)");
 }
 
 TEST(Construction, IconsComeFromTheBundleAndMissingOnesStayEmpty) {
-    const auto order = SettingsTest::buildControl("PageOrder_new");
+    const auto order = buildControl("PageOrder_new");
     EXPECT_EQ(std::filesystem::path(order->icons().group).filename(), "order_group.png");
     EXPECT_EQ(std::filesystem::path(order->radioCells()[0].iconPath).filename(), "PageOrder_new_FaceDown.png");
     EXPECT_EQ(order->radioCells()[2].iconPath, "");
-    const auto blank = SettingsTest::buildControl("PrintBlankPages");
+    const auto blank = buildControl("PrintBlankPages");
     EXPECT_EQ(std::filesystem::path(blank->icons().stateTrue).filename(), "PrintBlankPages_True.png");
     EXPECT_EQ(std::filesystem::path(blank->icons().group).filename(), "group_icon.png");
-    const auto density = SettingsTest::buildControl("ImageDensity");
+    const auto density = buildControl("ImageDensity");
     EXPECT_EQ(std::filesystem::path(density->icons().sliderMin).filename(), "density_min.png");
     EXPECT_EQ(density->icons().sliderMax, "");
     EXPECT_EQ(density->texts().minIconText, "Light");
-    EXPECT_EQ(SettingsTest::buildControl("StapleMode")->icons().group, "");
+    EXPECT_EQ(buildControl("StapleMode")->icons().group, "");
 }
 
 TEST(Construction, ChildrenFollowTheLanguageAndStackInRows) {
     {
         Language english("en");
-        const auto toner = SettingsTest::buildControl("UseSpToner");
+        const auto toner = buildControl("UseSpToner");
         ASSERT_EQ(toner->childControls().size(), 2u);
         EXPECT_EQ(toner->childControls()[0]->mainKeyword(), "SpTonerUseMode");
     }
     Language german("de-DE");
-    const auto toner = SettingsTest::buildControl("UseSpToner");
+    const auto toner = buildControl("UseSpToner");
     ASSERT_EQ(toner->childControls().size(), 3u);
     const auto& children = toner->childControls();
     EXPECT_EQ(children[0]->frame(), (ViewFrame{16, 72, 224, 48}));
@@ -165,7 +161,7 @@ TEST(Construction, ChildrenFollowTheLanguageAndStackInRows) {
 
 TEST(Construction, MissingDescriptionGivesAnEmptyControl) {
     auto control = std::make_shared<VORNUI>();
-    control->setControlDictionary(nullptr, SettingsTest::fixtureBundle());
+    control->setControlDictionary(nullptr, fixtureBundle());
     control->updateControl();
     EXPECT_EQ(control->controlType(), VORNUI::Type::Unknown);
     EXPECT_EQ(control->getControlHeight(), 0);

