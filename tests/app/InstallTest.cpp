@@ -63,6 +63,15 @@ TEST(Installation, InstalledCommandRunsFromItsPrefix) {
     const std::string line = libraries.output.substr(libraries.output.find("libostrinflow.so"));
     const std::string resolved = line.substr(line.find("=> ") + 3, line.find(" (") - line.find("=> ") - 3);
     EXPECT_TRUE(sameFile(resolved, libdir + "/libostrinflow.so.0")) << libraries.output;
+    EXPECT_EQ(libraries.output.find("libQt6"), std::string::npos) << libraries.output;
+
+    // gui hands over to the installed window program: only that program knows it needs a display.
+    auto gui = runShell("env -u LD_LIBRARY_PATH -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
+                        quoted(prefix.file("bin/ostrin-flow")) + " gui 2>&1");
+    EXPECT_EQ(gui.exitCode, 2);
+    EXPECT_NE(gui.output.find("gui needs a display"), std::string::npos) << gui.output;
+    auto guiLibraries = runShell("ldd " + quoted(prefix.file("libexec/ostrin-flow/ostrin-flow-gui")));
+    EXPECT_EQ(guiLibraries.output.find("not found"), std::string::npos) << guiLibraries.output;
 
     const std::string pkgConfig = "PKG_CONFIG_PATH=" + quoted(libdir + "/pkgconfig") + " pkg-config ";
     auto includes = runShell(pkgConfig + "--variable=includedir ostrinflow");
