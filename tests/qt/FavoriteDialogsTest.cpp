@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
@@ -69,15 +70,20 @@ protected:
         ASSERT_EQ(items.size(), 1) << name.toStdString();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(items.front()).center());
     }
-    // As a user types the whole path into the name field. (selectFile leaves the field alone
-    // once it has the focus, and the file then counts as chosen only if the folder, read in
-    // the background, got selected.) The dialog always closes, so that a failure cannot hang.
+    // As a user types the whole path into the name field with no file of the list selected
+    // (a selected row would win over the typed name). The folder is read in the background
+    // and may select the proposed file at any moment, so the selection is cleared last. The
+    // dialog always closes, so that a failure cannot hang the test.
     static void choose(QFileDialog& dialog, const std::string& path) {
         const QString chosen = QString::fromStdString(path);
         auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        if (field) field->setText(chosen);
+        auto* list = dialog.findChild<QAbstractItemView*>(QStringLiteral("listView"));
+        if (field && list) {
+            field->setText(chosen);
+            list->clearSelection();
+        }
         EXPECT_EQ(dialog.selectedFiles().value(0), chosen);
-        if (!field || dialog.selectedFiles().value(0) != chosen) return dialog.reject();
+        if (dialog.selectedFiles().value(0) != chosen) return dialog.reject();
         static_cast<QDialog&>(dialog).accept();
     }
     static void retype(TextFieldModelEdit* field, const QString& text) {
