@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QTest>
 
 #include "QtTestSupport.h"
@@ -70,15 +71,18 @@ protected:
         ASSERT_EQ(items.size(), 1) << name.toStdString();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(items.front()).center());
     }
-    // As a user types the whole path into the name field with no file of the list selected
-    // (a selected row would win over the typed name). The folder is read in the background
-    // and may select the proposed file at any moment, so the selection is cleared last. The
-    // dialog always closes, so that a failure cannot hang the test.
+    // The whole path in the name field and no file of the list selected, as the dialog holds
+    // them when a user has typed the path: a selected row would win over the typed name. The
+    // field is filled quietly, or the dialog would select the typed file and write its short
+    // name back; the selection is cleared last, since the folder, read in the background,
+    // may select the proposed file at any moment. The dialog always closes, so that a
+    // failure cannot hang the test.
     static void choose(QFileDialog& dialog, const std::string& path) {
         const QString chosen = QString::fromStdString(path);
         auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         auto* list = dialog.findChild<QAbstractItemView*>(QStringLiteral("listView"));
         if (field && list) {
+            const QSignalBlocker quiet(field);
             field->setText(chosen);
             list->clearSelection();
         }
