@@ -34,8 +34,9 @@ PlistValue fromArray(plist_t node) {
     return array;
 }
 
-PlistValue fromDictionary(plist_t node) {
-    PlistDictionary dictionary;
+// Calls visit(key, item) for each entry of a dictionary node, in the file's order.
+template <typename Visit>
+void forEachEntry(plist_t node, Visit visit) {
     plist_dict_iter iterator = nullptr;
     plist_dict_new_iter(node, &iterator);
     while (iterator) {
@@ -43,10 +44,15 @@ PlistValue fromDictionary(plist_t node) {
         plist_t item = nullptr;
         plist_dict_next_item(node, iterator, &key, &item);
         if (!key) break;
-        dictionary.set(key, fromNode(item));
+        visit(key, item);
         free(key);
     }
     free(iterator);
+}
+
+PlistValue fromDictionary(plist_t node) {
+    PlistDictionary dictionary;
+    forEachEntry(node, [&](const char* key, plist_t item) { dictionary.set(key, fromNode(item)); });
     return dictionary;
 }
 
@@ -148,17 +154,7 @@ std::size_t nestingOf(plist_t root) {
                 pending.emplace_back(plist_array_get_item(node, i), depth + 1);
             continue;
         }
-        plist_dict_iter iterator = nullptr;
-        plist_dict_new_iter(node, &iterator);
-        while (iterator) {
-            char* key = nullptr;
-            plist_t item = nullptr;
-            plist_dict_next_item(node, iterator, &key, &item);
-            if (!key) break;
-            free(key);
-            pending.emplace_back(item, depth + 1);
-        }
-        free(iterator);
+        forEachEntry(node, [&](const char*, plist_t item) { pending.emplace_back(item, depth + 1); });
     }
     return deepest;
 }
