@@ -16,10 +16,7 @@ class Options {
 public:
     explicit Options(const PlistDictionary& printOption) : _printOption(printOption) {}
 
-    std::string text(const char* key) const {
-        const PlistValue* value = _printOption.find(key);
-        return value ? PaneValueText::textOfValue(*value) : std::string();
-    }
+    std::string text(const char* key) const { return PaneValueText::textOfEntry(_printOption, key); }
     bool isEmpty(const char* key) const { return text(key).empty(); }
     /// A trigger holds only for a present, non-empty value equal to value.
     bool is(const char* key, const char* value) const {

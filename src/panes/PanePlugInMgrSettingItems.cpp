@@ -18,11 +18,6 @@ void collectControls(const std::vector<std::shared_ptr<VORNUI>>& controls, std::
     }
 }
 
-std::string textIn(const PlistDictionary& dictionary, const std::string& key) {
-    const PlistValue* value = dictionary.find(key);
-    return value ? PaneValueText::textOfValue(*value) : std::string();
-}
-
 }  // namespace
 
 PlistArray PanePlugInMgr::settingItemsOfBundleName(const std::string& name, const PlistDictionary& printOption) {
@@ -40,7 +35,8 @@ PlistArray PanePlugInMgr::settingItemsOfBundleName(const std::string& name, cons
         if (!printOption.contains(key)) continue;
         const auto alias = _mainAlias(key, {entry, control});
         if (!alias || alias->empty()) continue;
-        const bool differs = !isSameSettingText(textIn(printOption, key), textIn(defaults, key));
+        const bool differs = !isSameSettingText(PaneValueText::textOfEntry(printOption, key),
+                                                PaneValueText::textOfEntry(defaults, key));
         items.push_back(PlistDictionary{
             {"mainKeyword", key}, {"mainAlias", *alias}, {"plugInName", name}, {"differedWithDefault", differs}});
     }

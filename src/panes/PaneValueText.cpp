@@ -16,4 +16,9 @@ std::string textOfValue(const PlistValue& value) {
     return {};
 }
 
+std::string textOfEntry(const PlistDictionary& dictionary, const std::string& key) {
+    const PlistValue* value = dictionary.find(key);
+    return value ? textOfValue(*value) : std::string();
+}
+
 }  // namespace ComQuorvantVelmar_Plugin::PaneValueText

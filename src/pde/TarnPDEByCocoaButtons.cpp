@@ -8,15 +8,6 @@
 #include "pde/TarnPDEByCocoa.h"
 
 namespace ComQuorvantVelmar_Plugin {
-namespace {
-
-std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
-    const PlistValue* value = dictionary.find(key);
-    return value ? PaneValueText::textOfValue(*value) : std::string();
-}
-
-}  // namespace
-
 void TarnPDEByCocoa::_updatePaneFromModel() {
     _restoreValuesToPane(_printOption);
     _updateJobNameUI();
@@ -42,7 +33,7 @@ void TarnPDEByCocoa::clickedShowDetailedSettingsButton() {
     _detailedSettingsWinController->awakeFromNib();
     if (_detailedSettingsWinController->showAsModalDialog(_printOption) == 1) {
         _restoreValuesToPane(_printOption);
-        setCollate(textOf(_printOption, "Collate") == "True");
+        setCollate(PaneValueText::textOfEntry(_printOption, "Collate") == "True");
         _checkDifferenceFromCurrentFavorite(false);
         saveValuesAndReturnError_Fast();
     } else {
@@ -56,8 +47,8 @@ void TarnPDEByCocoa::clickedShowDetailedSettingsButton() {
 }
 
 void TarnPDEByCocoa::clickedRevertToDefaultSettings() {
-    const auto changed = _panePlugInMgr->setStringValueWithRestoreConfliction(textOf(_defaultPrintOption, "OutputTray"),
-                                                                             "OutputTray");
+    const std::string defaultTray = PaneValueText::textOfEntry(_defaultPrintOption, "OutputTray");
+    const auto changed = _panePlugInMgr->setStringValueWithRestoreConfliction(defaultTray, "OutputTray");
     _restoreValuesToPane(_defaultPrintOption);
     _panePlugInMgr->setStringValue("None", "DuplexMode");
     setCollate(true);

@@ -13,15 +13,6 @@
 #include "ppd/PrintOptionConverter.h"
 
 namespace ComQuorvantVelmar_Plugin {
-namespace {
-
-std::string textOf(const PlistDictionary& dictionary, const std::string& key) {
-    const PlistValue* value = dictionary.find(key);
-    return value ? PaneValueText::textOfValue(*value) : std::string();
-}
-
-}  // namespace
-
 std::optional<std::string> TarnPDEByCocoa::_selectedFavoriteRepresentedObject() const {
     const PopUpMenuItem* item = _Favorite->itemAtIndex(_Favorite->indexOfSelectedItem());
     if (!item || item->representedObject.empty()) return std::nullopt;
@@ -47,7 +38,7 @@ void TarnPDEByCocoa::selectFavorite() {
     if (isMarker) return;
     _removeChangedPresetTitleFromFavoritePopup();
     _reflectCurrentFavoriteToUi();
-    const std::string collate = textOf(_printOption, "Collate");
+    const std::string collate = PaneValueText::textOfEntry(_printOption, "Collate");
     if (collate == "1" || collate == "True") setCollate(true);
     if (collate == "0" || collate == "False") setCollate(false);
     if (const PlistValue* duplex = _printOption.find("DuplexMode"))
